@@ -1,0 +1,61 @@
+#include "GalleryApplication.h"
+
+#include <ZelWidgets/HandleSvgInStyle>
+#include <ZelWidgets/ZelFontMetrics>
+#include <ZelWidgets/ZelResources>
+#include <ZelWidgets/ZelStyleSheets>
+#include <ZelWidgets/ZelmoraStyle>
+
+#include <QApplication>
+#include <QDebug>
+
+#include <algorithm>
+
+namespace {
+
+/// The stored theme, or the first of the list if what is stored is none.
+QString storedTheme()
+{
+    const QString stored = ZelStyleSheets::colorThemeFromSettings();
+    const auto themes = ZelStyleSheets::colorThemeList();
+    const bool known = std::any_of(themes.begin(), themes.end(),
+                                   [&](const auto &theme) { return theme.second == stored; });
+    return known ? stored : themes.first().second;
+}
+
+} // namespace
+
+GalleryApplication::GalleryApplication(const QString &theme, QObject *parent)
+    : QObject(parent)
+    , theme_(theme.isEmpty() ? storedTheme() : theme)
+{
+    zelmorawidgets_init_resources();
+    HandleSvgInStyle::prepareHandleSvgIcons();
+    QApplication::setStyle(new ZelmoraStyle(QStringLiteral("Fusion")));
+    if (!ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), false))
+        qCritical() << "The gallery has no style file";
+}
+
+void GalleryApplication::setTheme(const QString &key)
+{
+    if (key == theme_)
+        return;
+    theme_ = key;
+    ZelStyleSheets::updateColorThemeSettings(key);
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(key, QString(), false);
+    Q_EMIT themeChanged(key);
+}
+
+void GalleryApplication::setFontSize(int points)
+{
+    if (points == fontSize())
+        return;
+    ZelFontMetrics::setZelmoraFontSizeSetting(points);
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), true);
+    Q_EMIT fontSizeChanged(points);
+}
+
+int GalleryApplication::fontSize() const
+{
+    return ZelFontMetrics::getZelmoraFontSizeSetting();
+}

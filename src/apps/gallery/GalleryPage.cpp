@@ -1,0 +1,47 @@
+#include "GalleryPage.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+GalleryPage::GalleryPage(QWidget *parent)
+    : QWidget(parent)
+    , layout_(new QVBoxLayout(this))
+{
+    layout_->setContentsMargins(16, 12, 16, 16);
+    layout_->setSpacing(12);
+}
+
+QVBoxLayout *GalleryPage::addSection(const QString &title, const QString &explanation)
+{
+    auto *group = new QGroupBox(title, this);
+    auto *content = new QVBoxLayout(group);
+    content->setSpacing(8);
+    if (!explanation.isEmpty()) {
+        auto *label = new QLabel(explanation, group);
+        label->setWordWrap(true);
+        content->addWidget(label);
+    }
+    layout_->addWidget(group);
+    return content;
+}
+
+void GalleryPage::addStretch()
+{
+    layout_->addStretch(1);
+}
+
+QString GalleryPage::describe(const QObject *object)
+{
+    const auto *widget = qobject_cast<const QWidget *>(object);
+    QString name = widget ? widget->accessibleName() : object->objectName();
+    if (name.isEmpty())
+        name = object->objectName();
+    if (name.isEmpty()) {
+        const auto *button = qobject_cast<const QAbstractButton *>(object);
+        name = button ? button->text().remove(u'&') : QString();
+    }
+    const QString type = QString::fromLatin1(object->metaObject()->className());
+    return name.isEmpty() ? type : type + u' ' + name;
+}

@@ -1,0 +1,300 @@
+#include "GalleryWindow.h"
+
+#include "GalleryApplication.h"
+#include "GalleryPage.h"
+#include "LogPanel.h"
+#include "PageCatalog.h"
+
+#include <ZelCore/ZelSettings>
+#include <ZelWidgets/ZelStyleIcon>
+#include <ZelWidgets/ZelStyleSheets>
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int fontSizes[] = {-1, 8, 9, 10, 11, 12, 14, 16};
+
+ZelSettings windowSettings()
+{
+    return ZelSettings(QStringLiteral("gallery"));
+}
+
+} // namespace
+
+GalleryWindow::GalleryWindow(GalleryApplication *application)
+    : application_(application)
+    , stack_(new QStackedWidget(this))
+    , log_(new LogPanel(this))
+    , pages_(pageCatalog().size(), nullptr)
+{
+    setWindowTitle(tr("Widget gallery"));
+    setWindowIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/multi_color.svg")));
+    listPanel_ = createPageList();
+
+    auto *right = new QSplitter(Qt::Vertical, this);
+    right->setObjectName(QStringLiteral("GalleryLogSplitter"));
+    right->addWidget(stack_);
+    right->addWidget(log_);
+    right->setStretchFactor(0, 1);
+    right->setCollapsible(0, false);
+    right->setSizes({700, 150});
+    auto *whole = new QSplitter(Qt::Horizontal, this);
+    whole->setObjectName(QStringLiteral("GalleryListSplitter"));
+    whole->addWidget(listPanel_);
+    whole->addWidget(right);
+    whole->setStretchFactor(1, 1);
+    whole->setCollapsible(1, false);
+    whole->setSizes({220, 1060});
+    setCentralWidget(whole);
+
+    for (int i = 0; i < pages_.size(); ++i) {
+        auto *area = new QScrollArea(stack_);
+        area->setWidgetResizable(true);
+        area->setFrameShape(QFrame::NoFrame);
+        stack_->addWidget(area);
+    }
+    createActions();
+    createToolBar();
+    connect(application_, &GalleryApplication::themeChanged, this, &GalleryWindow::tellPages);
+    connect(application_, &GalleryApplication::fontSizeChanged, this, &GalleryWindow::tellPages);
+    restoreLayout();
+    showPage(0);
+}
+
+QWidget *GalleryWindow::createPageList()
+{
+    auto *panel = new QWidget(this);
+    filter_ = new QLineEdit(panel);
+    filter_->setPlaceholderText(tr("Filter pages"));
+    filter_->setAccessibleName(tr("Filter pages"));
+    filter_->setClearButtonEnabled(true);
+    list_ = new QListWidget(panel);
+    list_->setAccessibleName(tr("Pages"));
+    for (const PageEntry &entry : pageCatalog()) {
+        auto *item = new QListWidgetItem(entry.title, list_);
+        item->setToolTip(entry.purpose);
+    }
+    auto *layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(8, 8, 4, 8);
+    layout->addWidget(filter_);
+    layout->addWidget(list_, 1);
+
+    connect(filter_, &QLineEdit::textChanged, this, &GalleryWindow::filterPages);
+    connect(filter_, &QLineEdit::returnPressed, list_, qOverload<>(&QWidget::setFocus));
+    connect(list_, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
+    return panel;
+}
+
+void GalleryWindow::createActions()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    showList_ = view->addAction(tr("Page &list"));
+    showList_->setCheckable(true);
+    showList_->setChecked(true);
+    showList_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_1));
+    connect(showList_, &QAction::toggled, listPanel_, &QWidget::setVisible);
+    showLog_ = view->addAction(tr("&Signals and messages"));
+    showLog_->setCheckable(true);
+    showLog_->setChecked(true);
+    showLog_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_2));
+    connect(showLog_, &QAction::toggled, log_, &QWidget::setVisible);
+    view->addSeparator();
+    view->addAction(tr("&Next page"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), this,
+                    [this] { stepPage(1); });
+    view->addAction(tr("&Previous page"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), this,
+                    [this] { stepPage(-1); });
+    view->addAction(tr("&Filter pages"), QKeySequence::Find, this, [this] {
+        showList_->setChecked(true);
+        filter_->setFocus(Qt::ShortcutFocusReason);
+        filter_->selectAll();
+    });
+    createThemeMenu();
+}
+
+void GalleryWindow::createThemeMenu()
+{
+    QMenu *menu = menuBar()->addMenu(tr("&Theme"));
+    auto *group = new QActionGroup(this);
+    for (const auto &[label, key] : ZelStyleSheets::colorThemeList()) {
+        QAction *action = menu->addAction(label);
+        action->setActionGroup(group);
+        action->setCheckable(true);
+        action->setChecked(key == application_->theme());
+        connect(action, &QAction::triggered, this, [this, key = key] { chooseTheme(key); });
+        connect(application_, &GalleryApplication::themeChanged, action,
+                [action, key = key](const QString &now) { action->setChecked(key == now); });
+    }
+    menu->addSeparator();
+    menu->addAction(tr("&Other theme"), QKeySequence(Qt::CTRL | Qt::Key_T), this, [this] {
+        for (const auto &theme : ZelStyleSheets::colorThemeList()) {
+            if (theme.second != application_->theme())
+                return chooseTheme(theme.second);
+        }
+    });
+}
+
+void GalleryWindow::createToolBar()
+{
+    QToolBar *bar = addToolBar(tr("Look"));
+    bar->setObjectName(QStringLiteral("GalleryToolBar"));
+    bar->setMovable(false);
+    bar->addAction(showList_);
+    bar->addAction(showLog_);
+    showList_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/list_toggle_mode.svg")));
+    showLog_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/move_down.svg")));
+    bar->addSeparator();
+    auto *other = new QAction(ZelStyleIcon(QStringLiteral(":/ui/icons/refresh.svg")),
+                              tr("Switch to the other theme (Ctrl+T)"), this);
+    connect(other, &QAction::triggered, this, [this] {
+        const bool dark = application_->theme() == QStringLiteral("Dark");
+        chooseTheme(dark ? QStringLiteral("Light") : QStringLiteral("Dark"));
+    });
+    bar->addAction(other);
+    bar->addSeparator();
+
+    auto *label = new QLabel(tr("Font size"), bar);
+    fontSizeBox_ = new QComboBox(bar);
+    fontSizeBox_->setAccessibleName(tr("Font size"));
+    for (const int points : fontSizes)
+        fontSizeBox_->addItem(points < 0 ? tr("System") : tr("%1 pt").arg(points));
+    label->setBuddy(fontSizeBox_);
+    bar->addWidget(label);
+    bar->addWidget(fontSizeBox_);
+    updateFontSizeBox();
+    connect(fontSizeBox_, &QComboBox::activated, this, &GalleryWindow::chooseFontSize);
+    connect(application_, &GalleryApplication::fontSizeChanged, this,
+            &GalleryWindow::updateFontSizeBox);
+}
+
+void GalleryWindow::updateFontSizeBox()
+{
+    const auto *found =
+        std::find(std::begin(fontSizes), std::end(fontSizes), application_->fontSize());
+    const QSignalBlocker blocker(fontSizeBox_);
+    fontSizeBox_->setCurrentIndex(
+        found == std::end(fontSizes) ? -1 : static_cast<int>(found - std::begin(fontSizes)));
+}
+
+void GalleryWindow::chooseTheme(const QString &key)
+{
+    // Queued, so that the menu that asked for it is closed before all widgets are polished anew.
+    QMetaObject::invokeMethod(
+        application_, [this, key] { application_->setTheme(key); }, Qt::QueuedConnection);
+}
+
+void GalleryWindow::chooseFontSize(int row)
+{
+    const int points = fontSizes[row];
+    QMetaObject::invokeMethod(
+        application_, [this, points] { application_->setFontSize(points); }, Qt::QueuedConnection);
+}
+
+void GalleryWindow::filterPages(const QString &text)
+{
+    const QList<PageEntry> &catalog = pageCatalog();
+    for (int i = 0; i < catalog.size(); ++i) {
+        const bool fits = catalog[i].title.contains(text, Qt::CaseInsensitive) ||
+                          catalog[i].purpose.contains(text, Qt::CaseInsensitive);
+        list_->item(i)->setHidden(!fits);
+    }
+}
+
+void GalleryWindow::stepPage(int step)
+{
+    const int count = static_cast<int>(pages_.size());
+    for (int index = currentPage() + step; index >= 0 && index < count; index += step) {
+        if (!list_->item(index)->isHidden())
+            return showPage(index);
+    }
+}
+
+void GalleryWindow::tellPages()
+{
+    for (GalleryPage *page : std::as_const(pages_)) {
+        if (page)
+            page->lookChanged();
+    }
+}
+
+GalleryPage *GalleryWindow::page(int index) const
+{
+    return pages_.value(index);
+}
+
+int GalleryWindow::currentPage() const
+{
+    return stack_->currentIndex();
+}
+
+void GalleryWindow::showPage(int index)
+{
+    if (index < 0 || index >= pages_.size())
+        return;
+    if (!pages_[index]) {
+        pages_[index] = pageCatalog()[index].create();
+        connect(pages_[index], &GalleryPage::logged, log_, &LogPanel::addSignal);
+        static_cast<QScrollArea *>(stack_->widget(index))->setWidget(pages_[index]);
+    }
+    stack_->setCurrentIndex(index);
+    list_->setCurrentRow(index);
+}
+
+void GalleryWindow::createAllPages()
+{
+    const int shown = currentPage();
+    for (int i = 0; i < pages_.size(); ++i)
+        showPage(i);
+    showPage(shown);
+}
+
+void GalleryWindow::setLogVisible(bool visible)
+{
+    showLog_->setChecked(visible);
+}
+
+void GalleryWindow::restoreLayout()
+{
+    resize(1280, 860);
+    const ZelSettings settings = windowSettings();
+    restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+    for (QSplitter *splitter : findChildren<QSplitter *>())
+        splitter->restoreState(settings.value(splitter->objectName()).toByteArray());
+    showList_->setChecked(settings.value(QStringLiteral("showList"), true).toBool());
+    showLog_->setChecked(settings.value(QStringLiteral("showLog"), true).toBool());
+}
+
+void GalleryWindow::saveLayout() const
+{
+    ZelSettings settings = windowSettings();
+    settings.setValue(QStringLiteral("geometry"), saveGeometry());
+    for (const QSplitter *splitter : findChildren<QSplitter *>()) {
+        if (splitter->objectName().startsWith(QStringLiteral("Gallery")))
+            settings.setValue(splitter->objectName(), splitter->saveState());
+    }
+    settings.setValue(QStringLiteral("showList"), showList_->isChecked());
+    settings.setValue(QStringLiteral("showLog"), showLog_->isChecked());
+}
+
+void GalleryWindow::closeEvent(QCloseEvent *event)
+{
+    saveLayout();
+    QMainWindow::closeEvent(event);
+}

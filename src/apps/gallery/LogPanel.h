@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+
+class QPlainTextEdit;
+
+/// The panel below the page: the signals that the page's widgets emit and the messages that go
+/// through Qt's message functions, newest last.
+class LogPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LogPanel(QWidget *parent = nullptr);
+    ~LogPanel() override;
+
+    QString text() const;
+
+public Q_SLOTS:
+    void addSignal(const QString &entry);
+    void clear();
+
+private:
+    void addLine(const QString &kind, const QString &entry);
+    static void handleMessage(QtMsgType type, const QMessageLogContext &context,
+                              const QString &text);
+
+    QPlainTextEdit *view_;
+};

@@ -1,0 +1,56 @@
+#include "PageCatalog.h"
+
+#include "pages/FontsPage.h"
+#include "pages/IconsPage.h"
+#include "pages/PlainWidgetsPage.h"
+#include "pages/StyleSheetPage.h"
+#include "pages/ThemePage.h"
+#include "pages/WindowsPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("PageCatalog", source);
+}
+
+template <typename Page>
+GalleryPage *make()
+{
+    return new Page;
+}
+
+} // namespace
+
+const QList<PageEntry> &pageCatalog()
+{
+    static const QList<PageEntry> pages{
+        {QStringLiteral("theme"), text("Theme"),
+         text("Palette, contrast and every icon in both themes"), &make<ThemePage>},
+        {QStringLiteral("icons"), text("Icons and engines"),
+         text("Icon families, redirects, pinned icons and a live document"), &make<IconsPage>},
+        {QStringLiteral("fonts"), text("Fonts and carriers"),
+         text("Font units, colours carried by the sheet, ranked buttons"), &make<FontsPage>},
+        {QStringLiteral("windows"), text("Windows"),
+         text("Placement, modal dialogs, tool tips, hover and the other services"),
+         &make<WindowsPage>},
+        {QStringLiteral("stylesheet"), text("Style sheet"),
+         text("The finished sheet, with an editor that finds broken rules"), &make<StyleSheetPage>},
+        {QStringLiteral("plain"), text("Plain Qt widgets"),
+         text("Every common Qt widget under the application's sheet"), &make<PlainWidgetsPage>},
+    };
+    return pages;
+}
+
+int pageIndex(const QString &name)
+{
+    const QList<PageEntry> &pages = pageCatalog();
+    for (int i = 0; i < pages.size(); ++i) {
+        if (pages[i].id.compare(name, Qt::CaseInsensitive) == 0 ||
+            pages[i].title.compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    return -1;
+}

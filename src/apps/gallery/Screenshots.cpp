@@ -1,0 +1,74 @@
+#include "Screenshots.h"
+
+#include "GalleryApplication.h"
+#include "GalleryPage.h"
+#include "GalleryWindow.h"
+#include "PageCatalog.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDir>
+#include <QImage>
+#include <QPixmap>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+constexpr int pictureWidth = 1280;
+constexpr int leastHeight = 800;
+constexpr int mostHeight = 4000;
+
+void settle()
+{
+    for (int round = 0; round < 4; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+int heightOfPage(const GalleryPage *page)
+{
+    return page->hasHeightForWidth() ? page->heightForWidth(page->width())
+                                     : page->sizeHint().height();
+}
+
+} // namespace
+
+QImage grabPage(GalleryWindow *window, int index)
+{
+    window->showPage(index);
+    window->resize(pictureWidth, leastHeight);
+    settle();
+    const GalleryPage *page = window->page(index);
+    const int rest = window->height() - page->parentWidget()->height();
+    window->resize(pictureWidth, std::clamp(heightOfPage(page) + rest, leastHeight, mostHeight));
+    settle();
+    return window->grab().toImage();
+}
+
+int writeScreenshots(GalleryApplication *application, GalleryWindow *window, const QString &folder,
+                     const QStringList &themes)
+{
+    if (!QDir().mkpath(folder)) {
+        qCritical() << "Can't make the folder" << folder;
+        return 1;
+    }
+    QApplication::setCursorFlashTime(0);
+    window->setLogVisible(false);
+    window->show();
+    for (const QString &theme : themes) {
+        application->setTheme(theme);
+        for (int i = 0; i < pageCatalog().size(); ++i) {
+            const QString name = pageCatalog()[i].id + u'-' + theme.toLower();
+            const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
+            if (!grabPage(window, i).save(file)) {
+                qCritical() << "Can't write the picture" << file;
+                return 1;
+            }
+            std::printf("%s\n", qPrintable(file));
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,47 @@
+#include "GalleryApplication.h"
+#include "GalleryOptions.h"
+#include "GalleryWindow.h"
+#include "PageCatalog.h"
+#include "Screenshots.h"
+
+#include <ZelCore/ZelSettings>
+
+#include <QApplication>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    if (const auto scale = GalleryOptions::scaleFromArguments(argc, argv))
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(*scale));
+    QApplication qtApplication(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("gallery"));
+    QApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
+    // In a build tree the icon-engine plugin lies beside the program.
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
+                                     QStringLiteral("/../plugins"));
+
+    const GalleryOptions options = GalleryOptions::fromArguments(QApplication::arguments());
+    if (options.listPages) {
+        for (const PageEntry &page : pageCatalog())
+            std::printf("%-14s %s\n", qPrintable(page.id), qPrintable(page.purpose));
+        return 0;
+    }
+    if (!options.settingsFile.isEmpty())
+        ZelSettings::setStorePath(options.settingsFile);
+
+    GalleryApplication application(options.theme);
+    GalleryWindow window(&application);
+    if (!options.page.isEmpty())
+        window.showPage(pageIndex(options.page));
+    if (!options.screenshotFolder.isEmpty()) {
+        QStringList themes(options.theme);
+        if (options.theme.isEmpty())
+            themes = QStringList{QStringLiteral("Dark"), QStringLiteral("Light")};
+        return writeScreenshots(&application, &window, options.screenshotFolder, themes);
+    }
+    window.show();
+    const int result = QApplication::exec();
+    ZelSettings::save();
+    return result;
+}

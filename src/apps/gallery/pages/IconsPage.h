@@ -1,0 +1,23 @@
+#pragma once
+
+#include "GalleryPage.h"
+
+class QIcon;
+class QLabel;
+class QPlainTextEdit;
+
+/// How themed icons are made: families, redirects, pinned icons, and a document to play with.
+class IconsPage : public GalleryPage
+{
+    Q_OBJECT
+
+public:
+    explicit IconsPage(QWidget *parent = nullptr);
+
+private:
+    void addFamilies();
+    void addPinned();
+    void addPlainSvg();
+    void addLiveDocument();
+    void addIconRow(QVBoxLayout *section, const QString &title, const QIcon &icon);
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+/// Renders an SVG text through the icon colour theme in all modes and states, live.
+class LiveIconView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LiveIconView(QWidget *parent = nullptr);
+
+    void setDocument(const QString &svg);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString svg_;
+};

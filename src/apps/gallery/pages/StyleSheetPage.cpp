@@ -1,0 +1,119 @@
+#include "StyleSheetPage.h"
+
+#include <ZelCore/ZelGlobalIconCache>
+#include <ZelWidgets/ZelPushButton>
+#include <ZelWidgets/ZelStyleSheets>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace {
+
+QString themeInForce()
+{
+    return ZelGlobalIconCache::darkTheme() ? QStringLiteral("Dark") : QStringLiteral("Light");
+}
+
+} // namespace
+
+StyleSheetPage::StyleSheetPage(QWidget *parent)
+    : GalleryPage(parent)
+    , verdict_(new QLabel(this))
+{
+    QVBoxLayout *top = addSection(tr("Finished sheet"),
+                                  tr("What the application's style sheet is now, with the theme's "
+                                     "palette put in and the font rule in front."));
+    auto *search = new QLineEdit(this);
+    search->setPlaceholderText(tr("Find in the sheet"));
+    search->setAccessibleName(tr("Find in the sheet"));
+    search->setClearButtonEnabled(true);
+    connect(search, &QLineEdit::textChanged, this, &StyleSheetPage::find);
+    top->addWidget(search);
+    finished_ = createEditor(tr("Finished sheet"));
+    finished_->setReadOnly(true);
+    top->addWidget(finished_);
+
+    QVBoxLayout *bottom = addSection(
+        tr("Editable copy"), tr("Change it and apply it, or break a rule and check it. Rules are "
+                                "separated by blank lines: they are where the check can look."));
+    edited_ = createEditor(tr("Editable copy"));
+    bottom->addWidget(edited_);
+    auto *row = new QHBoxLayout;
+    const struct
+    {
+        QString text;
+        QString rank;
+        void (StyleSheetPage::*action)();
+    } buttons[] = {{tr("&Apply"), QStringLiteral("Primary"), &StyleSheetPage::apply},
+                   {tr("&Check"), QStringLiteral("Secondary"), &StyleSheetPage::check},
+                   {tr("&Restore"), QStringLiteral("Tertiary"), &StyleSheetPage::restore}};
+    for (const auto &entry : buttons) {
+        auto *button = new ZelPushButton(entry.text, this);
+        button->setProperty("rank", entry.rank);
+        connect(button, &QPushButton::clicked, this, entry.action);
+        row->addWidget(button);
+    }
+    verdict_->setWordWrap(true);
+    row->addWidget(verdict_, 1);
+    bottom->addLayout(row);
+    lookChanged();
+}
+
+QPlainTextEdit *StyleSheetPage::createEditor(const QString &name)
+{
+    auto *editor = new QPlainTextEdit(this);
+    editor->setAccessibleName(name);
+    editor->setLineWrapMode(QPlainTextEdit::NoWrap);
+    editor->setTabChangesFocus(true);
+    editor->setMinimumHeight(fontMetrics().height() * 12);
+    editor->setObjectName(QStringLiteral("GalleryCode"));
+    return editor;
+}
+
+void StyleSheetPage::lookChanged()
+{
+    const QString sheet = qApp->styleSheet();
+    finished_->setPlainText(sheet);
+    edited_->setPlainText(sheet);
+}
+
+void StyleSheetPage::find(const QString &text)
+{
+    finished_->moveCursor(QTextCursor::Start);
+    const bool found = text.isEmpty() || finished_->find(text);
+    verdict_->setText(found ? QString() : tr("The sheet does not hold \"%1\".").arg(text));
+}
+
+void StyleSheetPage::apply()
+{
+    const QString text = edited_->toPlainText();
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(themeInForce(), text, false);
+    finished_->setPlainText(qApp->styleSheet());
+    verdict_->setText(tr("Applied."));
+    log(tr("style sheet applied, %n character(s)", nullptr, int(text.size())));
+}
+
+void StyleSheetPage::check()
+{
+    const QString running = qApp->styleSheet();
+    const QString name = QStringLiteral("gallery-check");
+    QString sheet = edited_->toPlainText();
+    ZelStyleSheets::appendStylesheetCheck(sheet, name);
+    qApp->setStyleSheet(sheet);
+    const bool sound = ZelStyleSheets::verifyStylesheetApplied(sheet, name);
+    // The search leaves the sheet at what it tried last.
+    qApp->setStyleSheet(running);
+    verdict_->setText(sound ? tr("The whole sheet is sound.") : tr("The sheet has a broken rule."));
+    log(sound ? tr("style sheet is sound") : tr("style sheet is broken"));
+}
+
+void StyleSheetPage::restore()
+{
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(themeInForce(), QString(), false);
+    lookChanged();
+    verdict_->setText(tr("The theme's own sheet is in force."));
+}

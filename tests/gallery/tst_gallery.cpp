@@ -1,0 +1,209 @@
+#include "TestCase.h"
+
+#include "GalleryApplication.h"
+#include "GalleryPage.h"
+#include "GalleryWindow.h"
+#include "PageCatalog.h"
+#include "StyleFile.h"
+#include "UserInput.h"
+
+#include <ZelWidgets/ZelStyleSheets>
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTextEdit>
+
+class GalleryTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void theStyleFileKeepsItsAuthorsRules();
+    void textAndMarksHaveEnoughContrast();
+    void everyFocusableControlHasANameAndARole();
+    void thePageListIsFilteredAndOperatedByKeys();
+    void aBrokenRuleIsFoundWhereItWasTyped();
+    void theFontSizeReachesEveryWidget();
+    void theCommandLineRefusesWhatItDoesNotKnow();
+
+private:
+    std::unique_ptr<GalleryApplication> application_;
+    std::unique_ptr<GalleryWindow> window_;
+};
+
+void GalleryTest::initTestCase()
+{
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
+                                     QStringLiteral("/../plugins"));
+    init();
+    application_ = std::make_unique<GalleryApplication>(QStringLiteral("Dark"));
+    window_ = std::make_unique<GalleryWindow>(application_.get());
+    window_->show();
+    window_->createAllPages();
+    cleanup();
+}
+
+void GalleryTest::cleanupTestCase()
+{
+    window_.reset();
+    application_.reset();
+}
+
+void GalleryTest::theStyleFileKeepsItsAuthorsRules()
+{
+    QFile file(QStringLiteral(":/res/zelmora.style"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    QVERIFY(!text.contains(QLatin1String(".svg")));
+
+    const auto palettes = StyleFile::palettes();
+    QCOMPARE(palettes.keys(), QStringList({QStringLiteral("Dark"), QStringLiteral("Light")}));
+    const StyleFile::Palette dark = palettes.value(QStringLiteral("Dark"));
+    const StyleFile::Palette light = palettes.value(QStringLiteral("Light"));
+    QCOMPARE(dark.keys(), light.keys());
+
+    for (const auto &theme : ZelStyleSheets::colorThemeList()) {
+        const QString sheet = ZelStyleSheets::parseFullStyleSheet(theme.second, QString());
+        for (const QString &key : dark.keys())
+            QVERIFY2(!sheet.contains(key), qPrintable(key + QStringLiteral(" was left in place")));
+    }
+    ZelStyleSheets::parseFullStyleSheet(application_->theme(), QString());
+}
+
+void GalleryTest::textAndMarksHaveEnoughContrast()
+{
+    const auto pairs = StyleFile::contrastPairs();
+    QVERIFY(pairs.size() > 10);
+    QStringList faults;
+    const auto palettes = StyleFile::palettes();
+    for (auto palette = palettes.begin(); palette != palettes.end(); ++palette) {
+        for (const StyleFile::ContrastPair &pair : pairs) {
+            const QColor text = StyleFile::color(palette->value(pair.foreground));
+            const QColor ground = StyleFile::color(palette->value(pair.background));
+            const bool known = text.isValid() && ground.isValid();
+            if (!known || StyleFile::contrast(text, ground) < pair.required)
+                faults.append(palette.key() + u' ' + pair.foreground + QStringLiteral(" on ") +
+                              pair.background);
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QStringLiteral("; "))));
+}
+
+void GalleryTest::everyFocusableControlHasANameAndARole()
+{
+    QStringList faults;
+    int seen = 0;
+    for (int i = 0; i < pageCatalog().size(); ++i) {
+        const auto widgets = window_->page(i)->findChildren<QWidget *>();
+        for (QWidget *widget : widgets) {
+            // Parts of composed widgets (a view's viewport, a spin box's field) are not met alone.
+            const bool ownControl = (widget->focusPolicy() & Qt::TabFocus) &&
+                                    !widget->objectName().startsWith(QLatin1String("qt_")) &&
+                                    !qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) &&
+                                    !qobject_cast<QComboBox *>(widget->parentWidget());
+            QAccessibleInterface *access = QAccessible::queryAccessibleInterface(widget);
+            if (!ownControl || !access)
+                continue;
+            ++seen;
+            if (access->text(QAccessible::Name).isEmpty() || access->role() == QAccessible::NoRole)
+                faults.append(pageCatalog()[i].id + u' ' +
+                              QLatin1String(widget->metaObject()->className()) + u' ' +
+                              widget->objectName());
+        }
+    }
+    QVERIFY(seen > 50);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+void GalleryTest::thePageListIsFilteredAndOperatedByKeys()
+{
+    auto *list = window_->findChild<QListWidget *>();
+    auto *filter = list->parentWidget()->findChild<QLineEdit *>();
+    filter->setFocus();
+    filter->setText(QStringLiteral("broken rules"));
+    int visible = 0;
+    for (int row = 0; row < list->count(); ++row)
+        visible += !list->item(row)->isHidden();
+    QCOMPARE(visible, 1);
+    filter->clear();
+
+    window_->showPage(0);
+    QTest::keyClick(list, Qt::Key_Down);
+    QCOMPARE(window_->currentPage(), 1);
+}
+
+void GalleryTest::aBrokenRuleIsFoundWhereItWasTyped()
+{
+    const int index = pageIndex(QStringLiteral("stylesheet"));
+    window_->showPage(index);
+    const QString running = qApp->styleSheet();
+    QPlainTextEdit *editor = nullptr;
+    for (QPlainTextEdit *edit : window_->page(index)->findChildren<QPlainTextEdit *>()) {
+        if (!edit->isReadOnly())
+            editor = edit;
+    }
+    QVERIFY(editor);
+    editor->setPlainText(QStringLiteral("QLabel { color: red; }\n\nQLabel { color: ; oops\n\n"
+                                        "QFrame { color: blue; }\n"));
+    QPushButton *check = nullptr;
+    for (QPushButton *button : window_->page(index)->findChildren<QPushButton *>()) {
+        if (button->text().contains(QLatin1String("Check")))
+            check = button;
+    }
+    QVERIFY(check);
+    messages().expect(QtWarningMsg, QStringLiteral("Could not parse application stylesheet"));
+    messages().expect(QtWarningMsg, QStringLiteral("Could not parse application stylesheet"));
+    QString shown;
+    const UserInput::DialogAnswer answer([&](QDialog *dialog) {
+        shown = dialog->findChild<QTextEdit *>()->toPlainText();
+        dialog->accept();
+    });
+    check->click();
+    QVERIFY(answer.finished());
+    QVERIFY2(shown.contains(QStringLiteral("oops")), qPrintable(shown));
+    QVERIFY(!shown.contains(QStringLiteral("blue")));
+    QCOMPARE(qApp->styleSheet(), running);
+}
+
+void GalleryTest::theFontSizeReachesEveryWidget()
+{
+    const int index = pageIndex(QStringLiteral("plain"));
+    window_->showPage(index);
+    application_->setFontSize(14);
+    for (const QLabel *label : window_->page(index)->findChildren<QLabel *>())
+        QCOMPARE(label->font().pointSize(), 14);
+    application_->setFontSize(-1);
+}
+
+void GalleryTest::theCommandLineRefusesWhatItDoesNotKnow()
+{
+    const QList<QStringList> bad{{QStringLiteral("--page"), QStringLiteral("nowhere")},
+                                 {QStringLiteral("--theme"), QStringLiteral("Purple")},
+                                 {QStringLiteral("--scale"), QStringLiteral("99")},
+                                 {QStringLiteral("--scale=nan")}};
+    for (const QStringList &arguments : bad) {
+        QProcess gallery;
+        gallery.start(QStringLiteral(ZEL_GALLERY), arguments);
+        QVERIFY(gallery.waitForFinished());
+        QCOMPARE(gallery.exitCode(), 2);
+        QVERIFY(gallery.readAllStandardError().startsWith("gallery: "));
+    }
+    QProcess gallery;
+    gallery.start(QStringLiteral(ZEL_GALLERY), {QStringLiteral("--list-pages")});
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.readAllStandardOutput().count('\n'), pageCatalog().size());
+}
+
+ZEL_TEST_MAIN(GalleryTest)
+#include "tst_gallery.moc"

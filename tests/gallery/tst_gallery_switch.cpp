@@ -1,0 +1,83 @@
+#include "TestCase.h"
+
+#include "GalleryApplication.h"
+#include "GalleryWindow.h"
+#include "PageCatalog.h"
+#include "Screenshots.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+
+/// A theme that is switched to has to look exactly as if the application had started in it.
+class GallerySwitchTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyPageLooksAsInAFreshStart();
+
+private:
+    QString freshPictures(const QString &theme) const;
+    int countDifferences(GalleryWindow *window, const QString &theme, const QString &fresh) const;
+};
+
+QString GallerySwitchTest::freshPictures(const QString &theme) const
+{
+    const QString target = folder() + u'/' + theme;
+    QProcess gallery;
+    gallery.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    gallery.start(QStringLiteral(ZEL_GALLERY),
+                  {QStringLiteral("--theme"), theme, QStringLiteral("--screenshots"), target,
+                   QStringLiteral("--settings"), folder() + QStringLiteral("/fresh.json")});
+    const bool finished = gallery.waitForFinished(180000) && gallery.exitCode() == 0;
+    return finished ? target : QString();
+}
+
+int GallerySwitchTest::countDifferences(GalleryWindow *window, const QString &theme,
+                                        const QString &fresh) const
+{
+    int differing = 0;
+    for (int i = 0; i < pageCatalog().size(); ++i) {
+        const QString name = pageCatalog()[i].id + u'-' + theme.toLower() + QStringLiteral(".png");
+        const QImage expected = QImage(fresh + u'/' + name).convertToFormat(QImage::Format_RGB32);
+        const QImage actual = grabPage(window, i).convertToFormat(QImage::Format_RGB32);
+        if (expected.isNull() || expected != actual) {
+            ++differing;
+            const QString kept = QDir::current().filePath(QStringLiteral("differs-") + name);
+            actual.save(kept);
+            expected.save(kept + QStringLiteral("-fresh.png"));
+            qInfo() << "differs from a fresh start:" << kept;
+        }
+    }
+    return differing;
+}
+
+void GallerySwitchTest::everyPageLooksAsInAFreshStart()
+{
+    const QString light = freshPictures(QStringLiteral("Light"));
+    const QString dark = freshPictures(QStringLiteral("Dark"));
+    QVERIFY(!light.isEmpty());
+    QVERIFY(!dark.isEmpty());
+
+    QApplication::setCursorFlashTime(0);
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
+                                     QStringLiteral("/../plugins"));
+    GalleryApplication application(QStringLiteral("Dark"));
+    GalleryWindow window(&application);
+    window.setLogVisible(false);
+    window.show();
+    // All pages have been seen before the switch, and all but one are hidden during it.
+    window.createAllPages();
+
+    application.setTheme(QStringLiteral("Light"));
+    QCOMPARE(countDifferences(&window, QStringLiteral("Light"), light), 0);
+    application.setTheme(QStringLiteral("Dark"));
+    QCOMPARE(countDifferences(&window, QStringLiteral("Dark"), dark), 0);
+    // The second time visible widgets get no style event any more.
+    application.setTheme(QStringLiteral("Light"));
+    QCOMPARE(countDifferences(&window, QStringLiteral("Light"), light), 0);
+}
+
+ZEL_TEST_MAIN(GallerySwitchTest)
+#include "tst_gallery_switch.moc"
