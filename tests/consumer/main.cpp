@@ -14,7 +14,7 @@ int main(int argc, char **argv)
     ZelSettings("consumer").setValue("answer", 42);
     const bool stored = ZelSettings("").value("consumer.answer").toInt() == 42;
     const bool resources =
-        zelmorawidgets_init_resources() == 1 && QFile::exists(":/res/splash_background.png");
+        zelmorawidgets_init_resources() == 1 && QFile::exists(":/ui/icons/search.svg");
     ZelPushButton button(QString("Hello"));
     button.show();
     const bool ranked = button.property("rank").toString() == "Secondary";
