@@ -35,6 +35,9 @@ public:
     /// empty text and a warning with the name; nothing is kept of a call.
     QString mapSvgToTheme(const QString &svg, QIcon::Mode mode, QIcon::State state,
                           const QString &name) const;
+    /// The same of a document whose markers were found once; for the library's own engines.
+    QString mapSvgToTheme(const class ThemedSvg &svg, QIcon::Mode mode, QIcon::State state,
+                          const QString &name) const;
 
 private:
     IconColorTheme();

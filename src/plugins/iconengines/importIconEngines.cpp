@@ -1,0 +1,5 @@
+// Part of each executable that uses the icon engines as a static plugin.
+
+#include <QtPlugin>
+
+Q_IMPORT_PLUGIN(ZelSvgIconEnginePlugin)
