@@ -1,0 +1,222 @@
+#include "ZelStyleSheets.h"
+
+#include "GlobalEventFilter.h"
+#include "IconColorTheme.h"
+#include "StyleSheetChangeProgress.h"
+#include "StyleSheetErrorLocator.h"
+#include "ZelFontMetrics.h"
+#include "ZelHyperLinkStyler.h"
+#include "ZelPushButton.h"
+#include "ZelStylePalette.h"
+#include "ZelStyleSwitch.h"
+#include "ZelVerifyStyleSheetWidget.h"
+
+#include <ZelCore/ZelGlobalIconCache>
+#include <ZelCore/ZelSettings>
+
+#include <QApplication>
+#include <QDebug>
+#include <QDialog>
+#include <QFile>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+ZelStylePalette::Table &paletteTable()
+{
+    static ZelStylePalette::Table table;
+    return table;
+}
+
+bool isFirstApplication = true;
+
+QString themeKey()
+{
+    return QStringLiteral("colortheme");
+}
+
+ZelSettings uiSettings()
+{
+    return ZelSettings(QStringLiteral("ui"));
+}
+
+std::optional<QString> readStyleFile()
+{
+    QFile file(QStringLiteral(":/res/zelmora.style"));
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    return QString::fromUtf8(file.readAll());
+}
+
+void reportPlainSvg(const QString &text)
+{
+    constexpr qsizetype lead = 70;
+    constexpr qsizetype excerptLength = 100;
+    const qsizetype position = text.indexOf(QLatin1String(".svg"));
+    if (position < 0)
+        return;
+    qCritical() << "StyleSheet has plain .svg file rather than .zelsvg here "
+                << text.mid(std::max<qsizetype>(position - lead, 0), excerptLength);
+}
+
+void loadIconTheme(const QString &themeName)
+{
+    const bool isDark = themeName.toLower().contains(QLatin1String("dark"));
+    IconColorTheme::instance()->loadThemeFile(
+        isDark ? QStringLiteral(":res/icon_themes/dark_theme.json")
+               : QStringLiteral(":res/icon_themes/light_theme.json"));
+    ZelGlobalIconCache::setDarkTheme(isDark);
+}
+
+// The sheet with the palette's values in it, and the palette of a text that has one taken over.
+QString resolvePalette(const QString &text, const QString &themeName)
+{
+    const ZelStylePalette::Sections sections = ZelStylePalette::splitSections(text);
+    if (!sections.hasPalette)
+        return sections.sheet;
+    paletteTable() = ZelStylePalette::parse(sections.palette.simplified());
+    const auto theme = paletteTable().find(themeName.toStdString());
+    return theme == paletteTable().end()
+               ? sections.sheet
+               : ZelStylePalette::substitute(sections.sheet, theme->second);
+}
+
+int fontSizeOfSheet()
+{
+    const int chosen = ZelFontMetrics::getZelmoraFontSizeSetting();
+    return ZelFontMetrics::adjustFontSize(chosen < 1 ? ZelFontMetrics::getApplicationFontSize()
+                                                     : chosen);
+}
+
+} // namespace
+
+QString ZelStyleSheets::parseFullStyleSheet(const QString &themeName, QString sheet)
+{
+    if (sheet.isEmpty()) {
+        const std::optional<QString> text = readStyleFile();
+        if (!text)
+            return QString();
+        sheet = *text;
+        reportPlainSvg(sheet);
+    }
+    loadIconTheme(themeName);
+    return ZelStylePalette::withFontRule(resolvePalette(sheet, themeName), fontSizeOfSheet());
+}
+
+bool ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(const QString &themeName, QString sheet,
+                                                    bool fontChanged)
+{
+    const QString finished = parseFullStyleSheet(themeName, std::move(sheet));
+    if (finished.isEmpty() && !themeName.isEmpty())
+        return false;
+    applyStyleSheetToApplication(finished, fontChanged);
+    return true;
+}
+
+void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fontChanged)
+{
+    GlobalEventFilter *filter = GlobalEventFilter::instance();
+    if (!filter)
+        return;
+    std::optional<StyleSheetChangeProgress> progress;
+    if (!isFirstApplication) {
+        // Runs events; so it has to be there before the filter begins to swallow any.
+        progress.emplace(sheet);
+        filter->setStyleChangeMode(true, !fontChanged);
+    }
+    isFirstApplication = false;
+    ZelStyleSwitch::apply(sheet, fontChanged ? ZelStyleSwitch::HiddenWidgets::Now
+                                             : ZelStyleSwitch::HiddenWidgets::Later);
+    filter->setStyleChangeMode(false, false);
+    ZelHyperLinkStyler::updateApplicationPalette();
+}
+
+bool ZelStyleSheets::updateColorTheme(bool fontChanged)
+{
+    return parseStyleSheetAndSetAsAppRoot(colorThemeFromSettings(), QString(), fontChanged);
+}
+
+QString ZelStyleSheets::colorThemeFromSettings()
+{
+    return uiSettings().value(themeKey(), QStringLiteral("Dark")).toString();
+}
+
+void ZelStyleSheets::updateColorThemeSettings(const QString &key)
+{
+    uiSettings().setValue(themeKey(), key, QString());
+}
+
+QList<std::pair<QString, QString>> ZelStyleSheets::colorThemeList()
+{
+    return {{tr("Dark"), QStringLiteral("Dark")}, {tr("Light"), QStringLiteral("Light")}};
+}
+
+void ZelStyleSheets::parseAllStyleSheets()
+{
+    const std::optional<QString> text = readStyleFile();
+    if (!text) {
+        qCritical() << "Could not load stylesheet";
+        return;
+    }
+    const QString clean = ZelStylePalette::withoutComments(*text);
+    ZelStylePalette::Table table;
+    ZelStylePalette::parseStrictly(ZelStylePalette::splitSections(clean).palette, table);
+    for (const auto &[theme, colors] : table)
+        parseFullStyleSheet(QString::fromStdString(theme), clean);
+}
+
+void ZelStyleSheets::appendStylesheetCheck(QString &sheet, const QString &name)
+{
+    sheet += StyleSheetErrorLocator::nameRule(name);
+}
+
+bool ZelStyleSheets::verifyStylesheetApplied(const QString &sheet, const QString &name)
+{
+    ZelVerifyStyleSheetWidget probe;
+    probe.ensurePolished();
+    if (probe.stylename() == name)
+        return true;
+
+    QStringList lines = sheet.split(QLatin1Char('\n'));
+    const auto place =
+        StyleSheetErrorLocator::locate(lines, [&probe](const QString &beginning, int line) {
+            qApp->setStyleSheet(beginning);
+            probe.ensurePolished();
+            return probe.errorLine() == line;
+        });
+    showStylesheetError(place.errorLine, place.lastGoodLine, getRemovedLineCount(int(lines.size())),
+                        lines);
+    return false;
+}
+
+int ZelStyleSheets::getRemovedLineCount(int sheetLineCount)
+{
+    const QString text = readStyleFile().value_or(QString());
+    return int(text.count(QLatin1Char('\n'))) + 1 - sheetLineCount;
+}
+
+void ZelStyleSheets::showStylesheetError(int errorLine, int lastGoodLine, int removedLines,
+                                         const QList<QString> &sheetLines)
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    dialog.setWindowTitle(QStringLiteral("Error in stylesheet"));
+
+    auto *text = new QTextEdit(&dialog);
+    auto *button = new ZelPushButton(QStringLiteral("OK, I will fix it."), &dialog);
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(text);
+    layout->addWidget(button);
+    QObject::connect(button, &QPushButton::clicked, &dialog, &QDialog::accept);
+
+    text->setText(StyleSheetErrorLocator::heading({errorLine, lastGoodLine}, removedLines));
+    const int end = std::min(errorLine, int(sheetLines.size()));
+    for (int line = std::max(lastGoodLine, 0); line < end; ++line)
+        text->append(sheetLines.at(line));
+    dialog.exec();
+}
