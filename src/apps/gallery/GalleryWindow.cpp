@@ -29,6 +29,11 @@ namespace {
 
 constexpr int fontSizes[] = {-1, 8, 9, 10, 11, 12, 14, 16};
 
+QIcon themedIcon(const QString &name)
+{
+    return ZelStyleIcon(QStringLiteral(":/ui/icons/%1.svg").arg(name));
+}
+
 ZelSettings windowSettings()
 {
     return ZelSettings(QStringLiteral("gallery"));
@@ -43,7 +48,7 @@ GalleryWindow::GalleryWindow(GalleryApplication *application)
     , pages_(pageCatalog().size(), nullptr)
 {
     setWindowTitle(tr("Widget gallery"));
-    setWindowIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/multi_color.svg")));
+    setWindowIcon(themedIcon(QStringLiteral("widgets")));
     listPanel_ = createPageList();
 
     auto *right = new QSplitter(Qt::Vertical, this);
@@ -86,7 +91,7 @@ QWidget *GalleryWindow::createPageList()
     list_ = new QListWidget(panel);
     list_->setAccessibleName(tr("Pages"));
     for (const PageEntry &entry : pageCatalog()) {
-        auto *item = new QListWidgetItem(entry.title, list_);
+        auto *item = new QListWidgetItem(themedIcon(entry.icon), entry.title, list_);
         item->setToolTip(entry.purpose);
     }
     auto *layout = new QVBoxLayout(panel);
@@ -158,10 +163,10 @@ void GalleryWindow::createToolBar()
     bar->setMovable(false);
     bar->addAction(showList_);
     bar->addAction(showLog_);
-    showList_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/list_toggle_mode.svg")));
-    showLog_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/move_down.svg")));
+    showList_->setIcon(themedIcon(QStringLiteral("list_toggle_mode")));
+    showLog_->setIcon(themedIcon(QStringLiteral("log")));
     bar->addSeparator();
-    auto *other = new QAction(ZelStyleIcon(QStringLiteral(":/ui/icons/refresh.svg")),
+    auto *other = new QAction(themedIcon(QStringLiteral("theme")),
                               tr("Switch to the other theme (Ctrl+T)"), this);
     connect(other, &QAction::triggered, this, [this] {
         const bool dark = application_->theme() == QStringLiteral("Dark");

@@ -11,6 +11,7 @@ struct PageEntry
     QString id;      ///< for the command line and for file names
     QString title;   ///< as the list shows it
     QString purpose; ///< one line for the tool tip and the filter
+    QString icon;    ///< base name of its picture in :/ui/icons
     GalleryPage *(*create)();
 };
 

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int pictureWidth = 1280;
 constexpr int leastHeight = 800;
-constexpr int mostHeight = 4000;
+constexpr int mostHeight = 6000;
 
 void settle()
 {

@@ -46,7 +46,7 @@ void IconsPage::addIconRow(QVBoxLayout *section, const QString &title, const QIc
 {
     auto *row = new QHBoxLayout;
     auto *label = new QLabel(title, this);
-    label->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+    label->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
     row->addWidget(label);
     const struct
     {

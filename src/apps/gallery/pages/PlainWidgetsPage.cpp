@@ -30,6 +30,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTextBrowser>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolBox>
@@ -92,9 +93,9 @@ PlainWidgetsPage::PlainWidgetsPage(QWidget *parent)
     addPairs(tr("Views"),
              {{tr("List"), &PlainWidgetsPage::lists},
               {tr("Tree"), &PlainWidgetsPage::trees},
-              {tr("Table"), &PlainWidgetsPage::tables},
-              {tr("Calendar"), &PlainWidgetsPage::calendars}},
-             2);
+              {tr("Table"), &PlainWidgetsPage::tables}},
+             3);
+    addPairs(tr("Calendar"), {{tr("Calendar"), &PlainWidgetsPage::calendars}}, 1);
     addPairs(tr("Containers"),
              {{tr("Tabs"), &PlainWidgetsPage::tabs},
               {tr("Group boxes"), &PlainWidgetsPage::groupBoxes},
@@ -110,10 +111,11 @@ void PlainWidgetsPage::addPairs(const QString &title,
 {
     QVBoxLayout *section = addSection(title, tr("Enabled at the left, disabled at the right."));
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
+    grid->setHorizontalSpacing(28);
     grid->setVerticalSpacing(12);
     for (int i = 0; i < makers.size(); ++i) {
         auto *cell = new QGridLayout;
+        cell->setHorizontalSpacing(12);
         auto *name = new QLabel(makers[i].first, this);
         cell->addWidget(name, 0, 0, 1, 2);
         QWidget *enabled = (this->*makers[i].second)();
@@ -213,13 +215,14 @@ QWidget *PlainWidgetsPage::lineEdits()
 
 QWidget *PlainWidgetsPage::textEdits()
 {
-    auto *rich = named(new QTextEdit, tr("Rich text"));
+    auto *rich = named(new QTextBrowser, tr("Rich text"));
+    rich->setOpenLinks(false);
+    watch(rich, &QTextBrowser::anchorClicked, QStringLiteral("anchorClicked"));
     rich->setHtml(tr("<b>Rich</b> text with <a href=\"#\">a link</a> and a list"
                      "<ul><li>one</li><li>two</li></ul>"));
     auto *plain = named(new QPlainTextEdit(tr("Plain text\nof two lines")), tr("Plain text"));
     for (QWidget *edit : {static_cast<QWidget *>(rich), static_cast<QWidget *>(plain)})
         edit->setFixedHeight(90);
-    rich->setTabChangesFocus(true);
     plain->setTabChangesFocus(true);
     return inColumn({rich, plain});
 }
@@ -341,6 +344,7 @@ QWidget *PlainWidgetsPage::trees()
         }
     }
     tree->topLevelItem(0)->setExpanded(true);
+    tree->header()->resizeSection(0, 120);
     tree->setFixedHeight(130);
     return tree;
 }
