@@ -16,6 +16,8 @@ void TestCase::cleanup()
 {
     const QString faults = spy_ ? spy_->faults() : QString();
     spy_.reset();
+    // What is still pending would bring the folder back.
+    ZelSettings::save();
     folder_.reset();
     if (!QTest::currentTestFailed())
         QVERIFY2(faults.isEmpty(), qPrintable(faults));

@@ -31,7 +31,9 @@ public:
 
     /// The stored value, or the default if there is none.
     QVariant value(const QString &key, const QVariant &defaultValue = QVariant()) const;
-    /// Stores a value. The comment, if there is one, is kept beside it for human readers.
+    /// Stores a value. The comment, if there is one, is kept beside it for human readers; an empty
+    /// one leaves the present comment. Other types are stored as the nearest of those above, by
+    /// way of a text if need be; a type that has none is named in a warning and not stored.
     void setValue(const QString &key, const QVariant &value, const QString &comment = QString());
     bool hasKey(const QString &key) const;
     /// Removes the key and what lies below it (keys that continue it with a dot).
@@ -62,6 +64,9 @@ class ZELCORE_EXPORT ZelSettings::Reference
 public:
     operator QVariant() const;
     Reference &operator=(const QVariant &value);
+    /// Stores the other one's value.
+    Reference &operator=(const Reference &other);
+    Reference(const Reference &) = default;
 
 private:
     friend class ZelSettings;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <ZelWidgets/zelwidgets_export.h>
+
+#include <QObject>
+
+class QTimer;
+
+/// Keeps the machine from going to sleep between start() and stop(), during long work.
+class ZELWIDGETS_EXPORT PreventSleep : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PreventSleep(QObject *parent = nullptr);
+    /// Lets the machine sleep again if stop() was forgotten.
+    ~PreventSleep() override;
+
+    bool isActive() const;
+
+public Q_SLOTS:
+    void start();
+    void stop();
+
+private:
+    QTimer *timer_;
+};

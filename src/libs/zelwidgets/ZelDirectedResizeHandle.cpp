@@ -1,0 +1,129 @@
+#include "ZelDirectedResizeHandle.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int gripDots = 3;
+constexpr int dotSize = 2;
+constexpr int dotDistance = 5;
+constexpr int thinnest = 8;
+
+} // namespace
+
+ZelDirectedResizeHandle::ZelDirectedResizeHandle(Qt::Orientation orientation, QWidget *parent)
+    : QWidget(parent)
+    , orientation_(orientation)
+{
+    const bool isHorizontal = orientation == Qt::Horizontal;
+    setObjectName(QStringLiteral("DirectedResizeHandle"));
+    setAttribute(Qt::WA_Hover);
+    setAttribute(Qt::WA_StyledBackground);
+    setCursor(isHorizontal ? Qt::SplitHCursor : Qt::SplitVCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(isHorizontal ? QSizePolicy::Fixed : QSizePolicy::Preferred,
+                  isHorizontal ? QSizePolicy::Preferred : QSizePolicy::Fixed);
+    setAccessibleName(isHorizontal ? tr("Width handle") : tr("Height handle"));
+    setToolTip(isHorizontal ? tr("Drag, or press the left and right keys, to change the width")
+                            : tr("Drag, or press the up and down keys, to change the height"));
+}
+
+QSize ZelDirectedResizeHandle::sizeHint() const
+{
+    const int thickness =
+        std::max(style()->pixelMetric(QStyle::PM_SplitterWidth, nullptr, this), thinnest);
+    const int length = (gripDots + 1) * dotDistance;
+    return orientation_ == Qt::Horizontal ? QSize(thickness, length) : QSize(length, thickness);
+}
+
+int ZelDirectedResizeHandle::offsetTo(QPoint globalPosition) const
+{
+    const QPoint way = globalPosition - dragStart_;
+    if (orientation_ == Qt::Vertical)
+        return way.y();
+    return isRightToLeft() ? -way.x() : way.x();
+}
+
+// 0 for other keys.
+int ZelDirectedResizeHandle::stepFor(int key) const
+{
+    const bool isHorizontal = orientation_ == Qt::Horizontal;
+    const int forward = isHorizontal && isRightToLeft() ? -keyStep : keyStep;
+    if (key == (isHorizontal ? Qt::Key_Right : Qt::Key_Down))
+        return forward;
+    return key == (isHorizontal ? Qt::Key_Left : Qt::Key_Up) ? -forward : 0;
+}
+
+void ZelDirectedResizeHandle::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QWidget::mousePressEvent(event);
+    isDragged_ = true;
+    dragStart_ = event->globalPosition().toPoint();
+    update();
+    Q_EMIT dragStarted();
+}
+
+void ZelDirectedResizeHandle::mouseMoveEvent(QMouseEvent *event)
+{
+    if (isDragged_)
+        Q_EMIT dragged(offsetTo(event->globalPosition().toPoint()));
+}
+
+void ZelDirectedResizeHandle::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        endDrag();
+}
+
+void ZelDirectedResizeHandle::keyPressEvent(QKeyEvent *event)
+{
+    const int step = stepFor(event->key());
+    if (step == 0 || isDragged_)
+        return QWidget::keyPressEvent(event);
+    Q_EMIT dragStarted();
+    Q_EMIT dragged(step);
+    Q_EMIT dragEnded();
+}
+
+void ZelDirectedResizeHandle::hideEvent(QHideEvent *event)
+{
+    endDrag();
+    QWidget::hideEvent(event);
+}
+
+void ZelDirectedResizeHandle::endDrag()
+{
+    if (!isDragged_)
+        return;
+    isDragged_ = false;
+    update();
+    Q_EMIT dragEnded();
+}
+
+void ZelDirectedResizeHandle::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool isLit = isDragged_ || underMouse() || hasFocus();
+    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().brush(group, isLit ? QPalette::Highlight : QPalette::WindowText));
+    const QPointF step =
+        orientation_ == Qt::Horizontal ? QPointF(0, dotDistance) : QPointF(dotDistance, 0);
+    const QPointF centre = QRectF(rect()).center();
+    for (int i = 0; i < gripDots; ++i)
+        painter.drawEllipse(centre + step * (i - gripDots / 2), dotSize / 2.0, dotSize / 2.0);
+
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(QPalette::Window);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}

@@ -1,0 +1,228 @@
+#include "TestCase.h"
+
+#include "ZelDesktopInhibitor.h"
+
+#include <ZelCore/ZelKeepAwake>
+
+#include <QElapsedTimer>
+#include <QProcess>
+
+namespace {
+
+QString text(const char *latin1)
+{
+    return QString::fromLatin1(latin1);
+}
+
+} // namespace
+
+#define SKIP_WITHOUT_BUS()                                                                         \
+    if (address_.isEmpty())                                                                        \
+    QSKIP("There is no dbus-daemon.")
+
+/// What a desktop offers on the bus: counts the inhibits that are held.
+class InhibitService : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<uint> held;
+    int grants = 0;
+
+public Q_SLOTS:
+    uint Inhibit(const QString &application, const QString &reason)
+    {
+        if (!application.isEmpty() && !reason.isEmpty())
+            held.append(uint(100 + ++grants));
+        return held.isEmpty() ? 0 : held.last();
+    }
+    void UnInhibit(uint cookie) { held.removeOne(cookie); }
+};
+
+class TestDesktopServices : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+    void cleanup();
+    void repeatedCallsHoldOneInhibit();
+    void aReleaseBeforeTheAnswerGivesTheInhibitBack();
+    void withoutAScreenSaverThePowerManagementIsAsked();
+    void aServiceThatCameBackIsAskedAgain();
+    void withoutAServiceNothingHappens();
+    void withoutABusCallsReturnAtOnceAndQuietly();
+    void anotherMeansCanBePutInPlace();
+
+private:
+    void offerScreenSaver();
+
+    QProcess daemon_;
+    QString address_;
+    std::unique_ptr<InhibitService> service_;
+    std::unique_ptr<ZelDesktopInhibitor> inhibitor_;
+};
+
+void TestDesktopServices::initTestCase()
+{
+    daemon_.start(text("dbus-daemon"),
+                  {text("--session"), text("--nofork"), text("--print-address=1")});
+    if (!daemon_.waitForStarted())
+        return;
+    QVERIFY(daemon_.waitForReadyRead());
+    address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
+}
+
+void TestDesktopServices::cleanupTestCase()
+{
+    daemon_.kill();
+    daemon_.waitForFinished();
+}
+
+void TestDesktopServices::init()
+{
+    TestCase::init();
+    service_ = std::make_unique<InhibitService>();
+    if (address_.isEmpty())
+        return;
+    QDBusConnection::connectToBus(address_, text("desktop"));
+    inhibitor_ = std::make_unique<ZelDesktopInhibitor>(
+        QDBusConnection::connectToBus(address_, text("application")));
+}
+
+void TestDesktopServices::cleanup()
+{
+    inhibitor_.reset();
+    QDBusConnection::disconnectFromBus(text("application"));
+    QDBusConnection::disconnectFromBus(text("desktop"));
+    TestCase::cleanup();
+}
+
+void TestDesktopServices::offerScreenSaver()
+{
+    QDBusConnection desktop(text("desktop"));
+    QVERIFY(desktop.registerObject(text("/org/freedesktop/ScreenSaver"),
+                                   text("org.freedesktop.ScreenSaver"), service_.get(),
+                                   QDBusConnection::ExportAllSlots));
+    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+}
+
+void TestDesktopServices::repeatedCallsHoldOneInhibit()
+{
+    SKIP_WITHOUT_BUS();
+    offerScreenSaver();
+    for (int i = 0; i < 3; ++i)
+        inhibitor_->inhibit();
+    QTRY_VERIFY(inhibitor_->isHeld());
+    inhibitor_->inhibit();
+    inhibitor_->uninhibit();
+    QTRY_VERIFY(service_->held.isEmpty());
+    QCOMPARE(service_->grants, 1);
+    QVERIFY(!inhibitor_->isHeld());
+
+    inhibitor_->inhibit();
+    QTRY_COMPARE(service_->held, QList<uint>{102});
+    QTRY_VERIFY(inhibitor_->isHeld());
+    inhibitor_.reset();
+    QTRY_VERIFY(service_->held.isEmpty());
+}
+
+void TestDesktopServices::aReleaseBeforeTheAnswerGivesTheInhibitBack()
+{
+    SKIP_WITHOUT_BUS();
+    offerScreenSaver();
+    inhibitor_->inhibit();
+    inhibitor_->uninhibit();
+    QTRY_COMPARE(service_->grants, 1);
+    QTRY_VERIFY(service_->held.isEmpty());
+    QVERIFY(!inhibitor_->isHeld());
+}
+
+void TestDesktopServices::withoutAScreenSaverThePowerManagementIsAsked()
+{
+    SKIP_WITHOUT_BUS();
+    QDBusConnection desktop(text("desktop"));
+    QVERIFY(desktop.registerObject(text("/org/freedesktop/PowerManagement/Inhibit"),
+                                   text("org.freedesktop.PowerManagement.Inhibit"), service_.get(),
+                                   QDBusConnection::ExportAllSlots));
+    QVERIFY(desktop.registerService(text("org.freedesktop.PowerManagement")));
+    inhibitor_->inhibit();
+    QTRY_VERIFY(inhibitor_->isHeld());
+    QCOMPARE(service_->held, QList<uint>{101});
+    inhibitor_->uninhibit();
+    QTRY_VERIFY(service_->held.isEmpty());
+}
+
+void TestDesktopServices::aServiceThatCameBackIsAskedAgain()
+{
+    SKIP_WITHOUT_BUS();
+    offerScreenSaver();
+    inhibitor_->inhibit();
+    QTRY_VERIFY(inhibitor_->isHeld());
+    QDBusConnection desktop(text("desktop"));
+    QVERIFY(desktop.unregisterService(text("org.freedesktop.ScreenSaver")));
+    QTRY_VERIFY(!inhibitor_->isHeld());
+    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+    inhibitor_->inhibit();
+    QTRY_VERIFY(inhibitor_->isHeld());
+    QCOMPARE(service_->grants, 2);
+}
+
+void TestDesktopServices::withoutAServiceNothingHappens()
+{
+    SKIP_WITHOUT_BUS();
+    inhibitor_->inhibit();
+    QDBusConnection desktop(text("desktop"));
+    QVERIFY(desktop.registerObject(text("/org/freedesktop/ScreenSaver"),
+                                   text("org.freedesktop.ScreenSaver"), service_.get(),
+                                   QDBusConnection::ExportAllSlots));
+    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+    // The answers to the first round come before those to the second.
+    const auto isHeldAfterAnotherCall = [this] {
+        inhibitor_->inhibit();
+        return inhibitor_->isHeld();
+    };
+    QTRY_VERIFY(isHeldAfterAnotherCall());
+    QCOMPARE(service_->grants, 1);
+}
+
+void TestDesktopServices::withoutABusCallsReturnAtOnceAndQuietly()
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < 3; ++i)
+        ZelKeepAwake::instance().keepAwake();
+    ZelKeepAwake::instance().release();
+    QVERIFY(clock.elapsed() < 1000);
+    ZelDesktopInhibitor inhibitor(QDBusConnection(text("no such connection")));
+    inhibitor.inhibit();
+    QVERIFY(!inhibitor.isHeld());
+    inhibitor.uninhibit();
+    QCOMPARE(messages().messages(QtDebugMsg), QStringList());
+}
+
+void TestDesktopServices::anotherMeansCanBePutInPlace()
+{
+    struct Counting : ZelKeepAwake
+    {
+        explicit Counting(int &calls)
+            : calls(calls)
+        {}
+        void keepAwake() override { ++calls; }
+        void release() override { calls += 10; }
+        int &calls;
+    };
+    int calls = 0;
+    ZelKeepAwake::setInstance(std::make_unique<Counting>(calls));
+    ZelKeepAwake::instance().keepAwake();
+    ZelKeepAwake::instance().release();
+    QCOMPARE(calls, 11);
+    ZelKeepAwake::setInstance(nullptr);
+    ZelKeepAwake::instance().keepAwake();
+    QCOMPARE(calls, 11);
+}
+
+ZEL_TEST_MAIN(TestDesktopServices)
+#include "tst_desktop_services.moc"
