@@ -6,6 +6,7 @@
 #include "StyleSheetErrorLocator.h"
 #include "ZelFontMetrics.h"
 #include "ZelHyperLinkStyler.h"
+#include "ZelLinkColors.h"
 #include "ZelPushButton.h"
 #include "ZelStylePalette.h"
 #include "ZelStyleSwitch.h"
@@ -85,6 +86,13 @@ QString resolvePalette(const QString &text, const QString &themeName)
                : ZelStylePalette::substitute(sections.sheet, theme->second);
 }
 
+void updateLinkColors()
+{
+    const QColor before = QApplication::palette().color(QPalette::Link);
+    ZelHyperLinkStyler::updateApplicationPalette();
+    ZelLinkColors::recolorApplication(before, QApplication::palette().color(QPalette::Link));
+}
+
 int fontSizeOfSheet()
 {
     const int chosen = ZelFontMetrics::getZelmoraFontSizeSetting();
@@ -132,7 +140,7 @@ void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fon
     ZelStyleSwitch::apply(sheet, fontChanged ? ZelStyleSwitch::HiddenWidgets::Now
                                              : ZelStyleSwitch::HiddenWidgets::Later);
     filter->setStyleChangeMode(false, false);
-    ZelHyperLinkStyler::updateApplicationPalette();
+    updateLinkColors();
 }
 
 bool ZelStyleSheets::updateColorTheme(bool fontChanged)
