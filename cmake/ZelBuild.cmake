@@ -113,7 +113,7 @@ endfunction()
 
 # What the environment of every test holds: no display, a fixed locale, no user settings.
 set(ZEL_TEST_ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen" "LC_ALL=C.UTF-8" "QT_LOGGING_RULES=*.debug=true;qt.*.debug=false"
+    "QT_QPA_PLATFORM=offscreen" "LC_ALL=C.UTF-8" "QT_LOGGING_RULES=qt.*.debug=false"
     "XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home" "HOME=${CMAKE_BINARY_DIR}/test-home"
     "XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/test-home" "DBUS_SESSION_BUS_ADDRESS=disabled:"
     "ASAN_OPTIONS=detect_leaks=1:abort_on_error=0"

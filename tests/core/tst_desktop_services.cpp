@@ -69,10 +69,8 @@ void TestDesktopServices::initTestCase()
 {
     daemon_.start(text("dbus-daemon"),
                   {text("--session"), text("--nofork"), text("--print-address=1")});
-    if (!daemon_.waitForStarted())
-        return;
-    QVERIFY(daemon_.waitForReadyRead());
-    address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
+    if (daemon_.waitForReadyRead())
+        address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
 }
 
 void TestDesktopServices::cleanupTestCase()

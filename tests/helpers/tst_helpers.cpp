@@ -5,7 +5,6 @@
 #include <ZelWidgets/KeyToSignalFilter>
 #include <ZelWidgets/PreventSleep>
 #include <ZelWidgets/SameSizeController>
-#include <ZelWidgets/ScrollbarHelper>
 #include <ZelWidgets/ZelAdaptiveTimer>
 #include <ZelWidgets/ZelCopyPasteEventFilter>
 #include <ZelWidgets/ZelCursorState>
@@ -77,7 +76,6 @@ private Q_SLOTS:
     void escapeAndEnterBecomeSignals();
     void filtersInstallThemselvesOnViews();
     void preventSleepRepeatsTheRequestUntilItIsStopped();
-    void scrollBarsNeverOverlap();
 };
 
 void TestHelpers::sameSizeIsTheLargestOfTheLivingChildren()
@@ -308,13 +306,6 @@ void TestHelpers::preventSleepRepeatsTheRequestUntilItIsStopped()
     }
     QCOMPARE(calls, QStringLiteral("kkrkr"));
     ZelKeepAwake::setInstance(nullptr);
-}
-
-void TestHelpers::scrollBarsNeverOverlap()
-{
-    QTableView view;
-    QCOMPARE(ScrollbarHelper::overlapScrollbarBugPixels(&view, Qt::Vertical), 0);
-    QCOMPARE(ScrollbarHelper::overlapScrollbarBugSize(nullptr), QSize(0, 0));
 }
 
 ZEL_TEST_MAIN(TestHelpers)

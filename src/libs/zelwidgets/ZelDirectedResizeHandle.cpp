@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr int gripDots = 3;
-constexpr int dotSize = 2;
-constexpr int dotDistance = 5;
+constexpr int gripDots = 5;
+constexpr int dotSize = 3;
+constexpr int dotDistance = 6;
 constexpr int thinnest = 8;
 
 } // namespace
@@ -37,8 +37,7 @@ QSize ZelDirectedResizeHandle::sizeHint() const
 {
     const int thickness =
         std::max(style()->pixelMetric(QStyle::PM_SplitterWidth, nullptr, this), thinnest);
-    const int length = (gripDots + 1) * dotDistance;
-    return orientation_ == Qt::Horizontal ? QSize(thickness, length) : QSize(length, thickness);
+    return QSize(thickness, thickness);
 }
 
 int ZelDirectedResizeHandle::offsetTo(QPoint globalPosition) const
