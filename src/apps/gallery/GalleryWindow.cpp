@@ -85,10 +85,12 @@ QWidget *GalleryWindow::createPageList()
 {
     auto *panel = new QWidget(this);
     filter_ = new QLineEdit(panel);
+    filter_->setObjectName(QStringLiteral("GalleryFilter"));
     filter_->setPlaceholderText(tr("Filter pages"));
     filter_->setAccessibleName(tr("Filter pages"));
     filter_->setClearButtonEnabled(true);
     list_ = new QListWidget(panel);
+    list_->setObjectName(QStringLiteral("GalleryPages"));
     list_->setAccessibleName(tr("Pages"));
     for (const PageEntry &entry : pageCatalog()) {
         auto *item = new QListWidgetItem(themedIcon(entry.icon), entry.title, list_);

@@ -28,18 +28,23 @@ const QList<PageEntry> &pageCatalog()
 {
     static const QList<PageEntry> pages{
         {QStringLiteral("theme"), text("Theme"),
-         text("Palette, contrast and every icon in both themes"), QStringLiteral("theme"), &make<ThemePage>},
+         text("Palette, contrast and every icon in both themes"), QStringLiteral("theme"),
+         &make<ThemePage>},
         {QStringLiteral("icons"), text("Icons and engines"),
-         text("Icon families, redirects, pinned icons and a live document"), QStringLiteral("icons"), &make<IconsPage>},
+         text("Icon families, redirects, pinned icons and a live document"),
+         QStringLiteral("icons"), &make<IconsPage>},
         {QStringLiteral("fonts"), text("Fonts and carriers"),
-         text("Font units, colours carried by the sheet, ranked buttons"), QStringLiteral("fonts"), &make<FontsPage>},
+         text("Font units, colours carried by the sheet, ranked buttons"), QStringLiteral("fonts"),
+         &make<FontsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
         {QStringLiteral("stylesheet"), text("Style sheet"),
-         text("The finished sheet, with an editor that finds broken rules"), QStringLiteral("stylesheet"), &make<StyleSheetPage>},
+         text("The finished sheet, with an editor that finds broken rules"),
+         QStringLiteral("stylesheet"), &make<StyleSheetPage>},
         {QStringLiteral("plain"), text("Plain Qt widgets"),
-         text("Every common Qt widget under the application's sheet"), QStringLiteral("widgets"), &make<PlainWidgetsPage>},
+         text("Every common Qt widget under the application's sheet"), QStringLiteral("widgets"),
+         &make<PlainWidgetsPage>},
     };
     return pages;
 }

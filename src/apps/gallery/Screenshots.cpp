@@ -45,6 +45,10 @@ QImage grabPage(GalleryWindow *window, int index)
     const int rest = window->height() - page->parentWidget()->height();
     window->resize(pictureWidth, std::clamp(heightOfPage(page) + rest, leastHeight, mostHeight));
     settle();
+    // Without a window manager the focus comes and goes by chance.
+    if (QWidget *focus = window->focusWidget())
+        focus->clearFocus();
+    settle();
     return window->grab().toImage();
 }
 

@@ -134,6 +134,7 @@ void FontsPage::addButtons()
 
 void FontsPage::updateValues()
 {
+    ensurePolished();
     const ZelFontMetrics metrics(this);
     const struct
     {

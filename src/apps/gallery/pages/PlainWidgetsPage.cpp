@@ -374,7 +374,7 @@ QWidget *PlainWidgetsPage::tabs()
 {
     QList<QWidget *> widgets;
     for (const auto position : {QTabWidget::North, QTabWidget::West}) {
-        auto *tabs = new QTabWidget;
+        auto *tabs = named(new QTabWidget, tr("Tabs"));
         tabs->setTabPosition(position);
         tabs->addTab(new QLabel(tr("First page")), tr("First"));
         tabs->addTab(new QLabel(tr("Second page")), icon("lock"), tr("Second"));
