@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     catchMessages();
-    const QString text = textOf(data, size);
+    QString text = textOf(data, size);
     const auto redirect = IconRedirect::parse(text);
     if (!redirect)
         return 0;
@@ -18,6 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         require(!redirect->target.contains(sign));
     require(redirect->mode >= QIcon::Normal && redirect->mode <= QIcon::Selected);
     require(redirect->state == QIcon::On || redirect->state == QIcon::Off);
+    text.remove(u'\r').remove(u'\t');
     require(redirect->state == QIcon::Off || text.contains(QLatin1String("active")));
     return 0;
 }

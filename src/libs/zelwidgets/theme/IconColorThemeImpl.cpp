@@ -129,10 +129,10 @@ IconColorThemeImpl::Lookup IconColorThemeImpl::lookUp(const ColorKey &key, int m
     const auto entries = modeColors_.constFind(key.base);
     if (entries == modeColors_.constEnd())
         return {QString(), Outcome::UnknownKey};
-    for (const auto &[wantedMode, wantedState] : iconModeOrder(mode, state)) {
+    for (const auto &wanted : iconModeOrder(mode, state)) {
         const auto entry =
             std::find_if(entries->cbegin(), entries->cend(), [&](const ColorEntry &candidate) {
-                return candidate.mode == wantedMode && candidate.state == wantedState;
+                return candidate.mode == wanted.first && candidate.state == wanted.second;
             });
         if (entry != entries->cend() && !entry->color.isEmpty())
             return {entry->color, Outcome::Found};
