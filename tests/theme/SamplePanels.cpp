@@ -5,7 +5,7 @@
 namespace SamplePanels {
 namespace {
 
-// 12 widgets: the row, seven controls, the inner line edit of the spin box, two labels, a button.
+// A labelled row of one of each small control.
 QWidget *makeRow(QWidget *parent, int number)
 {
     auto *row = new QWidget(parent);
@@ -36,7 +36,8 @@ QWidget *makeRow(QWidget *parent, int number)
     return row;
 }
 
-constexpr int widgetsOfRow = 12;
+// With the spin box's line edit and the combo box's popup.
+constexpr int widgetsOfRow = 19;
 constexpr int rowsOfGroup = 6;
 
 QWidget *makePage(QWidget *parent, int rowCount)

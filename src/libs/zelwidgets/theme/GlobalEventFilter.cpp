@@ -42,12 +42,31 @@ void sizeIfToolTip(QObject *object)
         GlobalEventFilterPrivate::sizeToolTip(label);
 }
 
+enum class PaintCare { None, SpinBox, FocusFrame };
+
+// One walk for both classes, as every paint event comes here.
+PaintCare paintCareOf(const QObject *object)
+{
+    const QMetaObject *type = object->metaObject();
+    for (; type && type != &QWidget::staticMetaObject; type = type->superClass()) {
+        if (type == &QAbstractSpinBox::staticMetaObject)
+            return PaintCare::SpinBox;
+        if (type == &QFocusFrame::staticMetaObject)
+            return PaintCare::FocusFrame;
+    }
+    return PaintCare::None;
+}
+
 // True if the object must not be painted.
 bool handlePaint(QObject *object, QEvent *event)
 {
-    if (qobject_cast<QAbstractSpinBox *>(object)) {
+    switch (paintCareOf(object)) {
+    case PaintCare::None:
+        return false;
+    case PaintCare::SpinBox:
         GlobalEventFilterPrivate::prepareSpinBoxForFirstPaint(object);
-    } else if (qobject_cast<QFocusFrame *>(object)) {
+        return false;
+    case PaintCare::FocusFrame:
         event->accept();
         return true;
     }

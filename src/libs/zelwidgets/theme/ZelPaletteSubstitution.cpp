@@ -32,9 +32,9 @@ public:
         result_.reserve(text.size());
     }
 
-    QString run()
+    QString run(qsizetype first)
     {
-        for (qsizetype at = text_.indexOf(key_); at >= 0; at = text_.indexOf(key_, scan_)) {
+        for (qsizetype at = first; at >= 0; at = text_.indexOf(key_, scan_)) {
             const qsizetype keyEnd = at + key_.size();
             if (isLeftAlone(text_, keyEnd)) {
                 scan_ = keyEnd;
@@ -96,7 +96,8 @@ private:
 
 QString substituteKey(const QString &text, const QString &key, const QString &value)
 {
-    return key.isEmpty() || !text.contains(key) ? text : Substitution(text, key, value).run();
+    const qsizetype first = key.isEmpty() ? -1 : text.indexOf(key);
+    return first < 0 ? text : Substitution(text, key, value).run(first);
 }
 
 } // namespace ZelStylePalette
