@@ -305,6 +305,15 @@ void TestHelpers::preventSleepRepeatsTheRequestUntilItIsStopped()
         preventSleep.start();
     }
     QCOMPARE(calls, QStringLiteral("kkrkr"));
+
+    PreventSleep first;
+    PreventSleep second;
+    first.start();
+    second.start();
+    first.stop();
+    QCOMPARE(calls, QStringLiteral("kkrkrkk"));
+    second.stop();
+    QCOMPARE(calls, QStringLiteral("kkrkrkkr"));
     ZelKeepAwake::setInstance(nullptr);
 }
 

@@ -6,8 +6,13 @@
 #include <QTimer>
 
 namespace {
+
 constexpr int repeatInterval = 25000;
-}
+
+// The request is the process's: it is given back when nobody wants it any more.
+int activeCount = 0;
+
+} // namespace
 
 PreventSleep::PreventSleep(QObject *parent)
     : QObject(parent)
@@ -19,8 +24,7 @@ PreventSleep::PreventSleep(QObject *parent)
 
 PreventSleep::~PreventSleep()
 {
-    if (isActive())
-        ZelKeepAwake::instance().release();
+    end();
 }
 
 bool PreventSleep::isActive() const
@@ -32,12 +36,22 @@ void PreventSleep::start()
 {
     qDebug() << "Preventing OS sleep";
     ZelKeepAwake::instance().keepAwake();
+    if (!isActive())
+        ++activeCount;
     timer_->start();
 }
 
 void PreventSleep::stop()
 {
     qDebug() << "Enabling OS sleep";
+    end();
+}
+
+void PreventSleep::end()
+{
+    if (!isActive())
+        return;
     timer_->stop();
-    ZelKeepAwake::instance().release();
+    if (--activeCount == 0)
+        ZelKeepAwake::instance().release();
 }

@@ -6,7 +6,8 @@
 
 class QTimer;
 
-/// Keeps the machine from going to sleep between start() and stop(), during long work.
+/// Keeps the machine from going to sleep between start() and stop(), during long work. It may
+/// sleep again when the last of several has stopped.
 class ZELWIDGETS_EXPORT PreventSleep : public QObject
 {
     Q_OBJECT
@@ -23,5 +24,7 @@ public Q_SLOTS:
     void stop();
 
 private:
+    void end();
+
     QTimer *timer_;
 };
