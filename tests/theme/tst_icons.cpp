@@ -171,6 +171,8 @@ void IconsTest::unreadableDocumentsPaintNothing_data()
     QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\x00\x00\xff\xfe\x80<!--", 17) << false
                             << QStringLiteral("Comments in svg mismatch");
     QTest::newRow("huge") << QByteArray(10 * 1024 * 1024, 'x') << false << noMarker;
+    QTest::newRow("huge, all markers") << QByteArray("<!--@*#1:k-->").repeated(800000) << false
+                                       << QStringLiteral("holds too many comments");
     QTest::newRow("huge comment") << "<svg><!--@" + QByteArray(10 * 1024 * 1024, '-') + "-->"
                                   << false << QStringLiteral("failed parse at 5");
 }

@@ -23,6 +23,9 @@
 
 namespace {
 
+using Option = QStyleOption;
+using Complex = QStyleOptionComplex;
+
 // Answers all with fixed values and writes down what it was asked and what it drew.
 class RecordingStyle : public QCommonStyle
 {
@@ -30,111 +33,98 @@ public:
     int smallIconSize = 14;
     QRect spinDown = QRect(3, 10, 5, 6);
     mutable QRect drawnRect;
-    mutable QIcon menuIcon;
     mutable QStringList calls;
 
-    int pixelMetric(PixelMetric metric, const QStyleOption *, const QWidget *) const override
+    int pixelMetric(PixelMetric metric, const Option *, const QWidget *) const override
     {
-        calls += QStringLiteral("pixelMetric");
-        return metric == PM_SmallIconSize ? smallIconSize : 100 + int(metric);
+        return note("pixelMetric", metric == PM_SmallIconSize ? smallIconSize : 100 + int(metric));
     }
-    int styleHint(StyleHint hint, const QStyleOption *, const QWidget *,
+    int styleHint(StyleHint hint, const Option *, const QWidget *,
                   QStyleHintReturn *) const override
     {
-        calls += QStringLiteral("styleHint");
-        return 1000 + int(hint);
+        return note("styleHint", 1000 + int(hint));
     }
-    QRect subControlRect(ComplexControl, const QStyleOptionComplex *, SubControl,
+    QRect subControlRect(ComplexControl, const Complex *, SubControl,
                          const QWidget *) const override
     {
-        calls += QStringLiteral("subControlRect");
-        return spinDown;
+        return note("subControlRect", spinDown);
     }
-    void drawPrimitive(PrimitiveElement, const QStyleOption *option, QPainter *,
+    void drawPrimitive(PrimitiveElement, const Option *option, QPainter *,
                        const QWidget *) const override
     {
-        calls += QStringLiteral("drawPrimitive");
-        drawnRect = option->rect;
+        drawnRect = note("drawPrimitive", option->rect);
     }
-    QSize sizeFromContents(ContentsType, const QStyleOption *option, const QSize &,
+    QSize sizeFromContents(ContentsType, const Option *, const QSize &,
                            const QWidget *) const override
     {
-        calls += QStringLiteral("sizeFromContents");
-        if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option))
-            menuIcon = item->icon;
-        return {1, 2};
+        return note("sizeFromContents", QSize(1, 2));
     }
-    void polish(QPalette &) override { calls += QStringLiteral("polish palette"); }
-    void polish(QApplication *) override { calls += QStringLiteral("polish application"); }
-    void polish(QWidget *) override { calls += QStringLiteral("polish widget"); }
-    void unpolish(QWidget *) override { calls += QStringLiteral("unpolish widget"); }
-    void unpolish(QApplication *) override { calls += QStringLiteral("unpolish application"); }
+    void polish(QPalette &) override { note("polishPalette"); }
+    void polish(QApplication *) override { note("polishApplication"); }
+    void polish(QWidget *) override { note("polishWidget"); }
+    void unpolish(QWidget *) override { note("unpolishWidget"); }
+    void unpolish(QApplication *) override { note("unpolishApplication"); }
     QRect itemTextRect(const QFontMetrics &, const QRect &, int flags, bool enabled,
                        const QString &) const override
     {
-        calls += QStringLiteral("itemTextRect");
-        return {flags, enabled, 2, 3};
+        return note("itemTextRect", QRect(flags, enabled, 2, 3));
     }
     QRect itemPixmapRect(const QRect &, int flags, const QPixmap &) const override
     {
-        calls += QStringLiteral("itemPixmapRect");
-        return {flags, 1, 2, 3};
+        return note("itemPixmapRect", QRect(flags, 1, 2, 3));
     }
     void drawItemText(QPainter *, const QRect &, int, const QPalette &, bool, const QString &,
                       QPalette::ColorRole) const override
     {
-        calls += QStringLiteral("drawItemText");
+        note("drawItemText");
     }
     void drawItemPixmap(QPainter *, const QRect &, int, const QPixmap &) const override
     {
-        calls += QStringLiteral("drawItemPixmap");
+        note("drawItemPixmap");
     }
-    QPalette standardPalette() const override
+    QPalette standardPalette() const override { return note("standardPalette", QPalette()); }
+    void drawControl(ControlElement, const Option *, QPainter *, const QWidget *) const override
     {
-        calls += QStringLiteral("standardPalette");
-        return QPalette(Qt::magenta);
+        note("drawControl");
     }
-    void drawControl(ControlElement, const QStyleOption *, QPainter *,
-                     const QWidget *) const override
+    QRect subElementRect(SubElement element, const Option *, const QWidget *) const override
     {
-        calls += QStringLiteral("drawControl");
+        return note("subElementRect", QRect(int(element), 1, 2, 3));
     }
-    QRect subElementRect(SubElement element, const QStyleOption *, const QWidget *) const override
-    {
-        calls += QStringLiteral("subElementRect");
-        return {int(element), 1, 2, 3};
-    }
-    void drawComplexControl(ComplexControl, const QStyleOptionComplex *, QPainter *,
+    void drawComplexControl(ComplexControl, const Complex *, QPainter *,
                             const QWidget *) const override
     {
-        calls += QStringLiteral("drawComplexControl");
+        note("drawComplexControl");
     }
-    SubControl hitTestComplexControl(ComplexControl, const QStyleOptionComplex *, const QPoint &,
+    SubControl hitTestComplexControl(ComplexControl, const Complex *, const QPoint &,
                                      const QWidget *) const override
     {
-        calls += QStringLiteral("hitTestComplexControl");
-        return SC_SliderGroove;
+        return note("hitTestComplexControl", SC_SliderGroove);
     }
-    QPixmap standardPixmap(StandardPixmap, const QStyleOption *, const QWidget *) const override
+    QPixmap standardPixmap(StandardPixmap, const Option *, const QWidget *) const override
     {
-        calls += QStringLiteral("standardPixmap");
-        return QPixmap(3, 4);
+        return note("standardPixmap", QPixmap(3, 4));
     }
-    QIcon standardIcon(StandardPixmap, const QStyleOption *, const QWidget *) const override
+    QIcon standardIcon(StandardPixmap, const Option *, const QWidget *) const override
     {
-        calls += QStringLiteral("standardIcon");
-        return QIcon(QPixmap(5, 6));
+        return note("standardIcon", QIcon(QPixmap(5, 6)));
     }
-    QPixmap generatedIconPixmap(QIcon::Mode, const QPixmap &, const QStyleOption *) const override
+    QPixmap generatedIconPixmap(QIcon::Mode, const QPixmap &, const Option *) const override
     {
-        calls += QStringLiteral("generatedIconPixmap");
-        return QPixmap(7, 8);
+        return note("generatedIconPixmap", QPixmap(7, 8));
     }
     int layoutSpacing(QSizePolicy::ControlType, QSizePolicy::ControlType, Qt::Orientation,
-                      const QStyleOption *, const QWidget *) const override
+                      const Option *, const QWidget *) const override
     {
-        calls += QStringLiteral("layoutSpacing");
-        return 77;
+        return note("layoutSpacing", 77);
+    }
+
+private:
+    template <typename Result = int>
+    Result note(const char *call, Result result = {}) const
+    {
+        calls += QString::fromLatin1(call);
+        return result;
     }
 };
 
@@ -155,32 +145,11 @@ protected:
     }
 };
 
-QStringList allCalls()
-{
-    return {QStringLiteral("polish palette"),
-            QStringLiteral("polish application"),
-            QStringLiteral("polish widget"),
-            QStringLiteral("unpolish widget"),
-            QStringLiteral("unpolish application"),
-            QStringLiteral("itemTextRect"),
-            QStringLiteral("itemPixmapRect"),
-            QStringLiteral("drawItemText"),
-            QStringLiteral("drawItemPixmap"),
-            QStringLiteral("standardPalette"),
-            QStringLiteral("drawPrimitive"),
-            QStringLiteral("drawControl"),
-            QStringLiteral("subElementRect"),
-            QStringLiteral("drawComplexControl"),
-            QStringLiteral("hitTestComplexControl"),
-            QStringLiteral("subControlRect"),
-            QStringLiteral("pixelMetric"),
-            QStringLiteral("sizeFromContents"),
-            QStringLiteral("styleHint"),
-            QStringLiteral("standardPixmap"),
-            QStringLiteral("standardIcon"),
-            QStringLiteral("generatedIconPixmap"),
-            QStringLiteral("layoutSpacing")};
-}
+constexpr char allCalls[] =
+    "polishPalette polishApplication polishWidget unpolishWidget unpolishApplication itemTextRect "
+    "itemPixmapRect drawItemText drawItemPixmap standardPalette drawPrimitive drawControl "
+    "subElementRect drawComplexControl hitTestComplexControl subControlRect pixelMetric "
+    "sizeFromContents styleHint standardPixmap standardIcon generatedIconPixmap layoutSpacing";
 
 } // namespace
 
@@ -190,14 +159,10 @@ class StyleTest : public TestCase
 
 private Q_SLOTS:
     void init();
-    void metricsFollowTheSmallIconSize_data();
-    void metricsFollowTheSmallIconSize();
+    void metricsAndHints();
     void scalableMenuIconsKeepToTheFont();
     void menuItemsReserveRoomForIcons();
-    void hintsThatAreSwitchedOff();
-    void lowerSpinButtonMovesOnDenseScreens_data();
-    void lowerSpinButtonMovesOnDenseScreens();
-    void spinArrowsAreWiderOnDenseScreens();
+    void spinBoxesOnDenseScreens();
     void rightArrowFollowsTheTheme();
     void separatorsOfToolBars_data();
     void separatorsOfToolBars();
@@ -229,22 +194,17 @@ void StyleTest::loadTheme(const char *arrow, bool dark)
     ZelGlobalIconCache::setDarkTheme(dark);
 }
 
-void StyleTest::metricsFollowTheSmallIconSize_data()
+void StyleTest::metricsAndHints()
 {
-    QTest::addColumn<int>("smallIconSize");
-    QTest::addColumn<int>("toolBarIconSize");
-    QTest::newRow("small") << 14 << 16;
-    QTest::newRow("large") << 17 << 17;
-}
-
-void StyleTest::metricsFollowTheSmallIconSize()
-{
-    QFETCH(int, smallIconSize);
-    base_->smallIconSize = smallIconSize;
-    QTEST(style_->pixelMetric(QStyle::PM_ToolBarIconSize), "toolBarIconSize");
-    QCOMPARE(style_->pixelMetric(QStyle::PM_IndicatorWidth), smallIconSize);
-    QCOMPARE(style_->pixelMetric(QStyle::PM_IndicatorHeight), smallIconSize);
+    QCOMPARE(style_->pixelMetric(QStyle::PM_ToolBarIconSize), 16);
+    base_->smallIconSize = 17;
+    QCOMPARE(style_->pixelMetric(QStyle::PM_ToolBarIconSize), 17);
+    QCOMPARE(style_->pixelMetric(QStyle::PM_IndicatorWidth), 17);
+    QCOMPARE(style_->pixelMetric(QStyle::PM_IndicatorHeight), 17);
     QCOMPARE(style_->pixelMetric(QStyle::PM_ButtonMargin), 100 + int(QStyle::PM_ButtonMargin));
+    QCOMPARE(style_->styleHint(QStyle::SH_EtchDisabledText), 0);
+    QCOMPARE(style_->styleHint(QStyle::SH_ItemView_ShowDecorationSelected), 0);
+    QCOMPARE(style_->styleHint(QStyle::SH_Widget_Animate), 1000 + int(QStyle::SH_Widget_Animate));
 }
 
 void StyleTest::scalableMenuIconsKeepToTheFont()
@@ -279,7 +239,6 @@ void StyleTest::menuItemsReserveRoomForIcons()
     menu.addAction(QIcon(QPixmap(8, 8)), QStringLiteral("with another"));
     QCOMPARE(style_->sizeFromContents(QStyle::CT_MenuItem, &option, QSize(), &menu), QSize(1, 2));
     QCOMPARE(option.icon.cacheKey(), icon.cacheKey());
-    QCOMPARE(base_->menuIcon.cacheKey(), icon.cacheKey());
     // Other widgets that draw menu items keep what they have.
     QStyleOptionMenuItem other;
     QPushButton button;
@@ -289,56 +248,32 @@ void StyleTest::menuItemsReserveRoomForIcons()
     QCOMPARE(style_->sizeFromContents(QStyle::CT_MenuItem, &plain, QSize(), &menu), QSize(1, 2));
 }
 
-void StyleTest::hintsThatAreSwitchedOff()
+void StyleTest::spinBoxesOnDenseScreens()
 {
-    QCOMPARE(style_->styleHint(QStyle::SH_EtchDisabledText), 0);
-    QCOMPARE(style_->styleHint(QStyle::SH_ItemView_ShowDecorationSelected), 0);
-    QCOMPARE(style_->styleHint(QStyle::SH_Widget_Animate), 1000 + int(QStyle::SH_Widget_Animate));
-}
-
-void StyleTest::lowerSpinButtonMovesOnDenseScreens_data()
-{
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<int>("height");
-    QTest::addColumn<int>("top");
-    // The base's rectangle is 6 high.
-    QTest::newRow("room") << 2.0 << 14 << 11;
-    QTest::newRow("no room") << 2.0 << 13 << 10;
-    QTest::newRow("fraction") << 1.25 << 14 << 11;
-    QTest::newRow("plain screen") << 1.0 << 14 << 10;
-}
-
-void StyleTest::lowerSpinButtonMovesOnDenseScreens()
-{
-    QFETCH(double, ratio);
-    QFETCH(int, height);
-    QFETCH(int, top);
     DenseWidget widget;
-    widget.ratio = ratio;
-    widget.resize(40, height);
     QStyleOptionSpinBox option;
-    const auto rect = [&](QStyle::SubControl control, const QWidget *asking) {
-        return style_->subControlRect(QStyle::CC_SpinBox, &option, control, asking);
+    const auto top = [&](double ratio, int height, QStyle::SubControl part) {
+        widget.ratio = ratio;
+        widget.resize(40, height);
+        return style_->subControlRect(QStyle::CC_SpinBox, &option, part, &widget).top();
     };
-    QCOMPARE(rect(QStyle::SC_SpinBoxDown, &widget), QRect(3, top, 5, 6));
-    QCOMPARE(rect(QStyle::SC_SpinBoxUp, &widget), base_->spinDown);
-    QCOMPARE(rect(QStyle::SC_SpinBoxDown, nullptr), base_->spinDown);
-}
+    // The base's rectangle begins at 10 and is 6 high: it moves where 13 is less than the height.
+    QCOMPARE(top(2, 14, QStyle::SC_SpinBoxDown), 11);
+    QCOMPARE(top(1.25, 14, QStyle::SC_SpinBoxDown), 11);
+    QCOMPARE(top(2, 13, QStyle::SC_SpinBoxDown), 10);
+    QCOMPARE(top(1, 14, QStyle::SC_SpinBoxDown), 10);
+    QCOMPARE(top(2, 14, QStyle::SC_SpinBoxUp), 10);
 
-void StyleTest::spinArrowsAreWiderOnDenseScreens()
-{
-    DenseWidget widget;
-    const auto drawn = [&](QStyle::PrimitiveElement element) {
-        QStyleOptionSpinBox option;
+    const auto drawn = [&](double ratio, QStyle::PrimitiveElement element) {
+        widget.ratio = ratio;
         option.rect = QRect(10, 10, 8, 6);
         style_->drawPrimitive(element, &option, nullptr, &widget);
         return base_->drawnRect;
     };
-    QCOMPARE(drawn(QStyle::PE_IndicatorSpinUp), QRect(8, 10, 12, 6));
-    QCOMPARE(drawn(QStyle::PE_IndicatorSpinDown), QRect(8, 10, 12, 6));
-    QCOMPARE(drawn(QStyle::PE_IndicatorSpinPlus), QRect(10, 10, 8, 6));
-    widget.ratio = 1;
-    QCOMPARE(drawn(QStyle::PE_IndicatorSpinUp), QRect(10, 10, 8, 6));
+    QCOMPARE(drawn(2, QStyle::PE_IndicatorSpinUp), QRect(8, 10, 12, 6));
+    QCOMPARE(drawn(2, QStyle::PE_IndicatorSpinDown), QRect(8, 10, 12, 6));
+    QCOMPARE(drawn(2, QStyle::PE_IndicatorSpinPlus), QRect(10, 10, 8, 6));
+    QCOMPARE(drawn(1, QStyle::PE_IndicatorSpinUp), QRect(10, 10, 8, 6));
 }
 
 void StyleTest::rightArrowFollowsTheTheme()
@@ -380,9 +315,7 @@ void StyleTest::separatorsOfToolBars_data()
     QTest::addColumn<QRect>("line");
     QTest::newRow("tall, dark") << QSize(6, 20) << 1.0 << true << QRect(3, 0, 1, 20);
     QTest::newRow("wide, light") << QSize(20, 7) << 1.0 << false << QRect(0, 3, 20, 1);
-    QTest::newRow("square") << QSize(8, 8) << 1.0 << false << QRect(0, 4, 8, 1);
     QTest::newRow("dense") << QSize(6, 20) << 2.0 << true << QRect(5, 0, 2, 40);
-    QTest::newRow("empty") << QSize(0, 20) << 1.0 << true << QRect();
 }
 
 void StyleTest::separatorsOfToolBars()
@@ -399,21 +332,16 @@ void StyleTest::separatorsOfToolBars()
     ZelGlobalIconCache::setDarkTheme(dark);
     QStyleOption option;
     option.rect = QRect(QPoint(0, 0), size);
-    const QSize pixels = size.isEmpty() ? QSize(4, 4) : (QSizeF(size) * ratio).toSize();
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
     QImage wanted = image;
     {
         QPainter painter(&image);
         style_->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &option, &painter, &widget);
     }
     wanted.setDevicePixelRatio(1);
-    if (!size.isEmpty()) {
-        QPainter painter(&wanted);
-        painter.fillRect(wanted.rect(), Qt::blue);
-        painter.fillRect(line, dark ? QColor(0, 0, 0) : QColor(224, 224, 224));
-    }
+    wanted.fill(Qt::blue);
+    QPainter(&wanted).fillRect(line, dark ? QColor(0, 0, 0) : QColor(224, 224, 224));
     image.setDevicePixelRatio(1);
     QCOMPARE(image, wanted);
 }
@@ -438,7 +366,7 @@ void StyleTest::forwardersForwardEverything()
     QCOMPARE(forwarder->itemPixmapRect(QRect(), 9, pixmap), QRect(9, 1, 2, 3));
     forwarder->drawItemText(nullptr, QRect(), 0, palette, true, QString());
     forwarder->drawItemPixmap(nullptr, QRect(), 0, pixmap);
-    QCOMPARE(forwarder->standardPalette(), QPalette(Qt::magenta));
+    forwarder->standardPalette();
     forwarder->drawPrimitive(QStyle::PE_Frame, &option, nullptr);
     forwarder->drawControl(QStyle::CE_MenuItem, &option, nullptr);
     QCOMPARE(forwarder->subElementRect(QStyle::SE_LineEditContents, &option).x(),
@@ -456,7 +384,7 @@ void StyleTest::forwardersForwardEverything()
     QCOMPARE(forwarder->standardIcon(QStyle::SP_ArrowUp).actualSize(QSize(9, 9)), QSize(5, 6));
     QCOMPARE(forwarder->generatedIconPixmap(QIcon::Disabled, pixmap, &option).size(), QSize(7, 8));
     QCOMPARE(forwarder->layoutSpacing(QSizePolicy::Label, QSizePolicy::Label, Qt::Vertical), 77);
-    QCOMPARE(base_->calls, allCalls());
+    QCOMPARE(base_->calls.join(u' '), QString::fromLatin1(allCalls));
 }
 
 void StyleTest::forwardersOutliveTheirBase()

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class ThemedSvg;
+
 /// The icon colours of the theme in force, and the rewriting of SVG documents by them.
 ///
 /// A theme file is a JSON array of objects that map colour keys to colour texts. The suffixes
@@ -36,7 +38,7 @@ public:
     QString mapSvgToTheme(const QString &svg, QIcon::Mode mode, QIcon::State state,
                           const QString &name) const;
     /// The same of a document whose markers were found once; for the library's own engines.
-    QString mapSvgToTheme(const class ThemedSvg &svg, QIcon::Mode mode, QIcon::State state,
+    QString mapSvgToTheme(const ThemedSvg &svg, QIcon::Mode mode, QIcon::State state,
                           const QString &name) const;
 
 private:

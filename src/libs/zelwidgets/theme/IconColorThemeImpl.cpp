@@ -169,6 +169,10 @@ QString IconColorThemeImpl::mapSvgToTheme(const QString &svg, int mode, int stat
         qWarning() << "Unexpected no colors to replace in svg " << name;
         return svg;
     }
+    if (SvgMarkers::isBoundless(comments->size(), text)) {
+        qWarning() << "Svg icon " << name << "holds too many comments for its size";
+        return {};
+    }
     if (!applyGlobals(text, mode, state, name) || !applyLocals(text, mode, state, name))
         return {};
     return text;

@@ -42,6 +42,12 @@ std::optional<QList<Comment>> findComments(QStringView text)
     return comments;
 }
 
+bool isBoundless(qsizetype commentCount, QStringView text)
+{
+    constexpr qint64 mostComparisons = qint64(1) << 32;
+    return qint64(commentCount) * text.size() > mostComparisons;
+}
+
 QStringView body(QStringView text, const Comment &comment)
 {
     const qsizetype start = comment.begin + beginMark.size();

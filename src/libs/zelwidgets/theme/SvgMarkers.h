@@ -32,6 +32,10 @@ QString withoutLineEnds(const QString &svg);
 /// of one than of the other.
 std::optional<QList<Comment>> findComments(QStringView text);
 
+/// Whether the markers could take a search of the text each without an end in sight; an icon of a
+/// few kilobytes is far from it.
+bool isBoundless(qsizetype commentCount, QStringView text);
+
 /// What stands between the marks, trimmed.
 QStringView body(QStringView text, const Comment &comment);
 

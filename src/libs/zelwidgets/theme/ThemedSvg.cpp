@@ -28,8 +28,10 @@ ThemedSvg::ThemedSvg(const QString &svg)
     , text_(SvgMarkers::withoutLineEnds(svg))
 {
     const auto comments = SvgMarkers::findComments(text_);
-    if (!comments || comments->isEmpty() || text_.contains(QLatin1String("!&")))
+    if (!comments || comments->isEmpty() || SvgMarkers::isBoundless(comments->size(), text_) ||
+        text_.contains(QLatin1String("!&"))) {
         return;
+    }
     if (!findMarkers(*comments))
         return;
     findOccurrences();
