@@ -60,9 +60,10 @@ private:
     qsizetype find(qsizetype from) const
     {
         const QStringView text(text_);
-        for (qsizetype at = text.indexOf(key_.front(), from); at >= 0;
+        const qsizetype last = text.size() - key_.size();
+        for (qsizetype at = text.indexOf(key_.front(), from); at >= 0 && at <= last;
              at = text.indexOf(key_.front(), at + 1)) {
-            if (text.mid(at).startsWith(key_))
+            if (std::equal(key_.cbegin(), key_.cend(), text.cbegin() + at))
                 return at;
         }
         return -1;
