@@ -28,19 +28,21 @@ public:
         : text_(text)
         , key_(key)
         , value_(value)
-    {
-        result_.reserve(text.size());
-    }
+    {}
 
-    QString run(qsizetype first)
+    QString run()
     {
-        for (qsizetype at = first; at >= 0; at = text_.indexOf(key_, scan_)) {
+        qsizetype at = find(0);
+        if (at < 0)
+            return text_;
+        result_.reserve(text_.size() + text_.size() / 8);
+        for (; at >= 0; at = find(scan_)) {
             const qsizetype keyEnd = at + key_.size();
             if (isLeftAlone(text_, keyEnd)) {
                 scan_ = keyEnd;
                 continue;
             }
-            result_ += text_.mid(copied_, at - copied_);
+            result_ += QStringView(text_).mid(copied_, at - copied_);
             result_ += value_;
             copied_ = keyEnd;
             scan_ = keyEnd + std::max<qsizetype>(0, key_.size() - value_.size());
@@ -50,16 +52,29 @@ public:
             if (scan_ >= text_.size())
                 break;
         }
-        return result_ += text_.mid(copied_);
+        return result_ += QStringView(text_).mid(copied_);
     }
 
 private:
+    // Keys begin with a character that is rare in a sheet; to look for that alone is quickest.
+    qsizetype find(qsizetype from) const
+    {
+        const QStringView text(text_);
+        const qsizetype last = text.size() - key_.size();
+        for (qsizetype at = text.indexOf(key_.front(), from); at >= 0 && at <= last;
+             at = text.indexOf(key_.front(), at + 1)) {
+            if (std::equal(key_.cbegin(), key_.cend(), text.cbegin() + at))
+                return at;
+        }
+        return -1;
+    }
+
     // The scan would go on inside the value if that is longer than the key.
     void passOverKeysInsideValue()
     {
         if (value_.size() <= key_.size())
             return;
-        const QString seam = value_ % text_.mid(copied_, key_.size() + 1);
+        const QString seam = value_ % QStringView(text_).mid(copied_, key_.size() + 1);
         qsizetype from = key_.size();
         for (qsizetype at = seam.indexOf(key_, from); at >= 0 && at < value_.size();
              at = seam.indexOf(key_, from)) {
@@ -73,19 +88,19 @@ private:
     void warnOnce()
     {
         if (!warned_)
-            qWarning() << "Palette value would be replaced without end, key" << key_.toString();
+            qWarning() << "Palette value would be replaced without end, key" << key_;
         warned_ = true;
     }
 
     QString tooLarge() const
     {
-        qWarning() << "Palette value makes the stylesheet too large, key" << key_.toString();
-        return text_.toString();
+        qWarning() << "Palette value makes the stylesheet too large, key" << key_;
+        return text_;
     }
 
-    QStringView text_;
-    QStringView key_;
-    QStringView value_;
+    const QString &text_;
+    const QString &key_;
+    const QString &value_;
     QString result_;
     qsizetype copied_ = 0;
     qsizetype scan_ = 0;
@@ -96,8 +111,7 @@ private:
 
 QString substituteKey(const QString &text, const QString &key, const QString &value)
 {
-    const qsizetype first = key.isEmpty() ? -1 : text.indexOf(key);
-    return first < 0 ? text : Substitution(text, key, value).run(first);
+    return key.isEmpty() ? text : Substitution(text, key, value).run();
 }
 
 } // namespace ZelStylePalette
