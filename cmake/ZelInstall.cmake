@@ -10,6 +10,12 @@ install(TARGETS ${libraries} EXPORT ZelWidgetsTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 
+# The folder below lib/qt6/plugins is where findIconEngines.cpp looks; static programs link it.
+install(TARGETS zelsvgiconengines EXPORT ZelWidgetsTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/qt6/plugins/iconengines"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(zelsvgiconengines PROPERTIES EXPORT_NAME IconEngines)
+
 foreach(library ${libraries})
     get_target_property(prefix ${library} ZEL_INCLUDE_PREFIX)
     get_property(headers GLOBAL PROPERTY ZEL_INSTALLED_HEADERS_${library})

@@ -54,7 +54,8 @@ QList<ContrastPair> contrastPairs()
     const QJsonDocument document =
         QJsonDocument::fromJson(readFile(QStringLiteral(":/res/contrast_pairs.json")));
     QList<ContrastPair> pairs;
-    for (const QJsonValue &entry : document.array()) {
+    const QJsonArray entries = document.array();
+    for (const auto &entry : entries) {
         const QJsonObject pair = entry.toObject();
         pairs.append({pair.value(QLatin1String("text")).toString(),
                       pair.value(QLatin1String("on")).toString(),

@@ -127,7 +127,7 @@ private:
     QVariantList readList(const QJsonArray &array, int depth)
     {
         QVariantList list;
-        for (const QJsonValue &element : array)
+        for (const auto &element : array)
             list.append(read(element, depth + 1));
         return list;
     }
@@ -201,7 +201,7 @@ private:
             return width && height ? Result(QSizeF(*width, *height)) : std::nullopt;
         }
         std::vector<qint64> numbers;
-        for (const QJsonValue &element : array) {
+        for (const auto &element : array) {
             const std::optional<qint64> number = integerFrom(element);
             // Wide enough for the width of the widest rectangle, and no sum overflows.
             if (!number || std::abs(*number / 2) > std::numeric_limits<uint>::max())

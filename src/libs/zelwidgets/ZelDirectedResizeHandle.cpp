@@ -117,7 +117,7 @@ void ZelDirectedResizeHandle::paintEvent(QPaintEvent *)
         orientation_ == Qt::Horizontal ? QPointF(0, dotDistance) : QPointF(dotDistance, 0);
     const QPointF centre = QRectF(rect()).center();
     for (int i = 0; i < gripDots; ++i)
-        painter.drawEllipse(centre + step * (i - gripDots / 2), dotSize / 2.0, dotSize / 2.0);
+        painter.drawEllipse(centre + step * double(i - gripDots / 2), dotSize / 2.0, dotSize / 2.0);
 
     if (hasFocus()) {
         QStyleOptionFocusRect option;

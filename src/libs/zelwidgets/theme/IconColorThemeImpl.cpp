@@ -107,7 +107,7 @@ void IconColorThemeImpl::parseAndBuildMap(const QString &json)
         return;
     }
     const QJsonArray elements = document.array();
-    for (const QJsonValue &element : elements) {
+    for (const auto &element : elements) {
         const QJsonObject colors = element.toObject();
         for (auto color = colors.begin(); color != colors.end(); ++color) {
             const QString value = color.value().toString();

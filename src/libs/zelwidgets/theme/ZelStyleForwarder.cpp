@@ -3,35 +3,15 @@
 #include <QCommonStyle>
 #include <QWidget>
 
-#include <algorithm>
-#include <iterator>
-
-namespace {
-
-// Styles live on the GUI thread only.
-QList<ZelStyleForwarder *> &liveForwarders()
-{
-    static QList<ZelStyleForwarder *> forwarders;
-    return forwarders;
-}
-
-} // namespace
-
 ZelStyleForwarder::ZelStyleForwarder(QObject *parent, QStyle *baseStyle)
     : baseStyle_(baseStyle)
 {
     setParent(parent);
-    liveForwarders().append(this);
 }
 
 ZelStyleForwarder::ZelStyleForwarder(QWidget *widget)
     : ZelStyleForwarder(widget, widget->style())
 {}
-
-ZelStyleForwarder::~ZelStyleForwarder()
-{
-    liveForwarders().removeOne(this);
-}
 
 QStyle *ZelStyleForwarder::baseStyle() const
 {
@@ -40,25 +20,6 @@ QStyle *ZelStyleForwarder::baseStyle() const
         baseStyle_->setParent(const_cast<ZelStyleForwarder *>(this));
     }
     return baseStyle_;
-}
-
-void ZelStyleForwarder::setBaseStyle(QStyle *style)
-{
-    if (style == baseStyle_)
-        return;
-    if (baseStyle_ && baseStyle_->parent() == this)
-        baseStyle_->deleteLater();
-    baseStyle_ = style;
-}
-
-QList<ZelStyleForwarder *> ZelStyleForwarder::forwardersOf(const QStyle *baseStyle)
-{
-    const QList<ZelStyleForwarder *> &all = liveForwarders();
-    QList<ZelStyleForwarder *> found;
-    std::copy_if(
-        all.cbegin(), all.cend(), std::back_inserter(found),
-        [&](const ZelStyleForwarder *forwarder) { return forwarder->baseStyle_ == baseStyle; });
-    return found;
 }
 
 void ZelStyleForwarder::polish(QPalette &palette)

@@ -2,7 +2,6 @@
 
 #include <ZelWidgets/zelwidgets_export.h>
 
-#include <QList>
 #include <QPointer>
 #include <QStyle>
 
@@ -20,16 +19,9 @@ public:
     ZelStyleForwarder(QObject *parent, QStyle *baseStyle);
     /// Forwards to the widget's present style; the widget owns the forwarder.
     explicit ZelStyleForwarder(QWidget *widget);
-    ~ZelStyleForwarder() override;
 
     /// Never null.
     QStyle *baseStyle() const;
-    void setBaseStyle(QStyle *style);
-
-    /// The living forwarders that forward to the style. A change of the application's style sheet
-    /// may replace the application's style: whoever makes the change remembers these and hands
-    /// them the new one.
-    static QList<ZelStyleForwarder *> forwardersOf(const QStyle *baseStyle);
 
     void polish(QPalette &palette) override;
     void polish(QApplication *application) override;
