@@ -179,6 +179,7 @@ void ThemeSwitchTest::onlyLaterSwitchesShowProgress()
 
 void ThemeSwitchTest::polishesEachVisibleWidgetOnce()
 {
+    switchTo(light);
     const Pages pages;
     for (int page = pages.count(); page-- > 0;)
         pages.grab(page);
