@@ -83,13 +83,10 @@ private Q_SLOTS:
     void substitutes();
     void substitutesAsIfInPlace();
     void substitutionEnds();
-    void removesComments_data();
     void removesComments();
     void exchangesTheFontRule();
-    void takesTheFontSizeOfTheApplication();
 
     void makesTheSheetOfATheme();
-    void sheetWithoutPaletteKeepsTheTable();
     void keepsThemesBeforeAFault_data();
     void keepsThemesBeforeAFault();
     void badFiles_data();
@@ -98,7 +95,6 @@ private Q_SLOTS:
     void missingFile();
     void checksAllThemes();
     void remembersTheChoice();
-    void themeNameDecidesAboutIcons_data();
     void themeNameDecidesAboutIcons();
 
     void locatesErrors_data();
@@ -190,26 +186,17 @@ void StyleSheetsTest::substitutionEnds()
     QCOMPARE(substituteKey(many, text("k"), QString(10000, QLatin1Char('v'))), many);
 }
 
-void StyleSheetsTest::removesComments_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const QString &text, const QString &expected) {
-        QTest::newRow(name) << text << expected;
-    };
-    const QString large = QStringLiteral("line of a comment\r\n").repeated(6000);
-    row("several lines", QStringLiteral("a/* b\n\r\n c */d"), QStringLiteral("ad"));
-    row("two", QStringLiteral("/**/a/***/b/* /* */c*/"), QStringLiteral("abc*/"));
-    row("closing inside of the opening", QStringLiteral("a/*/b*/c"), QStringLiteral("ac"));
-    row("not closed", QStringLiteral("a/*b*/c/*d"), QStringLiteral("ac/*d"));
-    row("of 100 KB", QStringLiteral("a/*") + large + QStringLiteral("*/b"), QStringLiteral("ab"));
-}
-
 void StyleSheetsTest::removesComments()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    QCOMPARE(ZelStylePalette::withoutComments(text), expected);
+    const QString large = QStringLiteral("line of a comment\r\n").repeated(6000);
+    const std::pair<QString, QString> rows[] = {
+        {QStringLiteral("a/* b\n\r\n c */d"), QStringLiteral("ad")},
+        {QStringLiteral("/**/a/***/b/* /* */c*/"), QStringLiteral("abc*/")},
+        {QStringLiteral("a/*/b*/c"), QStringLiteral("ac")},
+        {QStringLiteral("a/*b*/c/*d"), QStringLiteral("ac/*d")},
+        {QStringLiteral("a/*") + large + QStringLiteral("*/b"), QStringLiteral("ab")}};
+    for (const auto &[text, expected] : rows)
+        QCOMPARE(ZelStylePalette::withoutComments(text), expected);
 }
 
 void StyleSheetsTest::exchangesTheFontRule()
@@ -222,17 +209,12 @@ void StyleSheetsTest::exchangesTheFontRule()
     QCOMPARE(ZelStyleSheets::parseFullStyleSheet(
                  dark, QStringLiteral("QWidget{font-size    :by hand; more}\n\nA{}")),
              QStringLiteral("QWidget{font-size    : 14pt; } \n\nA{}"));
-    QCOMPARE(ZelStyleSheets::parseFullStyleSheet(dark, QStringLiteral("QWidget{font-size    :")),
-             QStringLiteral("QWidget{font-size    : 14pt; } \n"));
-}
-
-void StyleSheetsTest::takesTheFontSizeOfTheApplication()
-{
-    const QString expected = QStringLiteral("QWidget{font-size    : %1pt; } \nA{}")
-                                 .arg(ZelFontMetrics::getApplicationFontSize());
     for (const int size : {-1, 0}) {
         ZelFontMetrics::setZelmoraFontSizeSetting(size);
-        QCOMPARE(ZelStyleSheets::parseFullStyleSheet(dark, QStringLiteral("A{}")), expected);
+        QCOMPARE(
+            ZelStyleSheets::parseFullStyleSheet(dark, QStringLiteral("QWidget{font-size    :")),
+            QStringLiteral("QWidget{font-size    : %1pt; } \n")
+                .arg(ZelFontMetrics::getApplicationFontSize()));
     }
 }
 
@@ -247,14 +229,6 @@ void StyleSheetsTest::makesTheSheetOfATheme()
 
     const QString unknown = ZelStyleSheets::parseFullStyleSheet(QStringLiteral("dark"), QString());
     QVERIFY(unknown.contains(QStringLiteral("color: @text@ ;")));
-}
-
-void StyleSheetsTest::sheetWithoutPaletteKeepsTheTable()
-{
-    const QString sheet = QStringLiteral("A { color: @c@ ; }");
-    ZelStyleSheets::parseFullStyleSheet(
-        dark, withPalette(QStringLiteral("{\"Dark\": {\"@c@\": \"red\"}}"), sheet));
-    QCOMPARE(ZelStyleSheets::parseFullStyleSheet(dark, sheet), fontRule + sheet);
 }
 
 void StyleSheetsTest::keepsThemesBeforeAFault_data()
@@ -366,24 +340,15 @@ void StyleSheetsTest::remembersTheChoice()
     QVERIFY(qApp->styleSheet().contains(QLatin1String("color: #202011 ;")));
 }
 
-void StyleSheetsTest::themeNameDecidesAboutIcons_data()
-{
-    QTest::addColumn<QString>("theme");
-    QTest::addColumn<bool>("isDark");
-    QTest::newRow("Dark") << dark << true;
-    QTest::newRow("inside of a word") << QStringLiteral("ExtraDARKest") << true;
-    QTest::newRow("Light") << QStringLiteral("Light") << false;
-    QTest::newRow("unknown") << QStringLiteral("Blue") << false;
-    QTest::newRow("none") << QString() << false;
-}
-
 void StyleSheetsTest::themeNameDecidesAboutIcons()
 {
-    QFETCH(QString, theme);
-    QFETCH(bool, isDark);
-    ZelGlobalIconCache::setDarkTheme(!isDark);
-    ZelStyleSheets::parseFullStyleSheet(theme, QStringLiteral("A{}"));
-    QCOMPARE(ZelGlobalIconCache::darkTheme(), isDark);
+    const std::pair<const char *, bool> rows[] = {
+        {"Dark", true}, {"ExtraDARKest", true}, {"Light", false}, {"Blue", false}, {"", false}};
+    for (const auto &[theme, isDark] : rows) {
+        ZelGlobalIconCache::setDarkTheme(!isDark);
+        ZelStyleSheets::parseFullStyleSheet(QString::fromLatin1(theme), QStringLiteral("A{}"));
+        QCOMPARE(ZelGlobalIconCache::darkTheme(), isDark);
+    }
 }
 
 void StyleSheetsTest::locatesErrors_data()

@@ -222,7 +222,7 @@ void ZelStyleSheets::showStylesheetError(int errorLine, int lastGoodLine, int re
     layout->addWidget(button);
     QObject::connect(button, &QPushButton::clicked, &dialog, &QDialog::accept);
 
-    text->setText(StyleSheetErrorLocator::heading({errorLine, lastGoodLine}, removedLines));
+    text->setPlainText(StyleSheetErrorLocator::heading({errorLine, lastGoodLine}, removedLines));
     const int end = std::min(errorLine, int(sheetLines.size()));
     for (int line = std::max(lastGoodLine, 0); line < end; ++line)
         text->append(sheetLines.at(line));
