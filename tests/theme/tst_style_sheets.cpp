@@ -4,6 +4,7 @@
 #include "theme/StyleSheetErrorLocator.h"
 #include "theme/ZelFontMetrics.h"
 #include "theme/ZelLinkColors.h"
+#include "theme/ZelMarkedKeys.h"
 #include "theme/ZelPaletteSubstitution.h"
 #include "theme/ZelStylePalette.h"
 #include "theme/ZelStyleSheets.h"
@@ -82,6 +83,7 @@ private Q_SLOTS:
     void substitutes_data();
     void substitutes();
     void substitutesAsIfInPlace();
+    void substitutesMarkedKeysAsOneAfterTheOther();
     void substitutionEnds();
     void removesComments();
     void exchangesTheFontRule();
@@ -166,6 +168,37 @@ void StyleSheetsTest::substitutesAsIfInPlace()
         QCOMPARE(ZelStylePalette::substituteKey(text, key, value),
                  substitutedInPlace(text, key, value));
     }
+}
+
+void StyleSheetsTest::substitutesMarkedKeysAsOneAfterTheOther()
+{
+    QRandomGenerator random(11);
+    const auto pick = [&random](std::initializer_list<const char *> texts) {
+        return std::string(*(texts.begin() + random.bounded(int(texts.size()))));
+    };
+    int shortWays = 0;
+    for (int round = 0; round < 4000; ++round) {
+        ZelStylePalette::Colors colors;
+        for (const char *key : {"@a@", "@b@", "@abc@", "@;@"}) {
+            if (random.bounded(4) > 0 || key[1] == 'a')
+                colors[key] = pick({"", "#", "#12", "red", "#2d2d2d", "rgba(1, 2, 3)"});
+        }
+        std::string text;
+        for (int part = 0; part < 6; ++part) {
+            text += pick({"", ";", ";\n", "; x: ", "-x ", "xy ", "a"});
+            text += pick({"@a@", "@b@", "@abc@", "@abc@", "", round % 8 == 0 ? "@" : "@a@"});
+        }
+        QString expected = QString::fromStdString(text);
+        for (const auto &[key, value] : colors) {
+            expected = ZelStylePalette::substituteKey(expected, QString::fromStdString(key),
+                                                      QString::fromStdString(value));
+        }
+        const QString source = QString::fromStdString(text);
+        QCOMPARE(ZelStylePalette::substitute(source, colors), expected);
+        shortWays += ZelStylePalette::substituteMarkedKeys(source, colors).has_value();
+    }
+    // Both ways were tried.
+    QVERIFY(shortWays > 200 && shortWays < 3800);
 }
 
 void StyleSheetsTest::substitutionEnds()

@@ -10,16 +10,6 @@ namespace {
 
 constexpr qsizetype largestText = 32 * 1024 * 1024;
 
-// The character that decides is the second one behind the key.
-bool isLeftAlone(QStringView text, qsizetype keyEnd)
-{
-    if (keyEnd + 1 >= text.size())
-        return false;
-    const QChar character = text.at(keyEnd + 1);
-    return character.isLetterOrNumber() || character == QLatin1Char('-') ||
-           character == QLatin1Char('_');
-}
-
 // The text with one key's value put in so far, and the place in the source to go on from.
 class Substitution
 {
@@ -108,6 +98,16 @@ private:
 };
 
 } // namespace
+
+// The character that decides is the second one behind the key.
+bool isLeftAlone(QStringView text, qsizetype keyEnd)
+{
+    if (keyEnd + 1 >= text.size())
+        return false;
+    const QChar character = text.at(keyEnd + 1);
+    return character.isLetterOrNumber() || character == QLatin1Char('-') ||
+           character == QLatin1Char('_');
+}
 
 QString substituteKey(const QString &text, const QString &key, const QString &value)
 {

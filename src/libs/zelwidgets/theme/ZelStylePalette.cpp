@@ -1,5 +1,6 @@
 #include "ZelStylePalette.h"
 
+#include "ZelMarkedKeys.h"
 #include "ZelPaletteSubstitution.h"
 
 #include <QDebug>
@@ -61,6 +62,8 @@ Table parse(const QString &section)
 
 QString substitute(QString text, const Colors &colors)
 {
+    if (const auto marked = substituteMarkedKeys(text, colors))
+        return *marked;
     for (const auto &[key, value] : colors) {
         if (!key.empty())
             text = substituteKey(text, QString::fromStdString(key), QString::fromStdString(value));
