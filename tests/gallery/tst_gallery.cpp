@@ -66,8 +66,6 @@ private:
 
 void GalleryTest::initTestCase()
 {
-    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
-                                     QStringLiteral("/../plugins"));
     init();
     application_ = std::make_unique<GalleryApplication>(QStringLiteral("Dark"));
     window_ = std::make_unique<GalleryWindow>(application_.get());

@@ -61,8 +61,6 @@ void GallerySwitchTest::everyPageLooksAsInAFreshStart()
     QVERIFY(!dark.isEmpty());
 
     QApplication::setCursorFlashTime(0);
-    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
-                                     QStringLiteral("/../plugins"));
     GalleryApplication application(QStringLiteral("Dark"));
     GalleryWindow window(&application);
     window.setLogVisible(false);

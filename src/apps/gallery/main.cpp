@@ -17,9 +17,6 @@ int main(int argc, char **argv)
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gallery"));
     QApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
-    // In a build tree the icon-engine plugin lies beside the program.
-    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() +
-                                     QStringLiteral("/../plugins"));
 
     const GalleryOptions options = GalleryOptions::fromArguments(QApplication::arguments());
     if (options.listPages) {
