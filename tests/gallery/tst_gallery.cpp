@@ -18,10 +18,13 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolBox>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,6 +45,37 @@ bool isOwnControl(const QWidget *widget)
     return true;
 }
 
+/// A control that the Tab key has to stop at: of the radio buttons of a group it is the chosen one.
+bool isTabStop(const QWidget *widget)
+{
+    const auto *radio = qobject_cast<const QRadioButton *>(widget);
+    return isOwnControl(widget) && widget->isVisible() && widget->isEnabled() &&
+           (!radio || radio->isChecked());
+}
+
+bool holds(const QList<QWidget *> &reached, const QWidget *control)
+{
+    return std::any_of(reached.begin(), reached.end(), [control](const QWidget *widget) {
+        return widget == control || control->isAncestorOf(widget) ||
+               widget == control->focusProxy();
+    });
+}
+
+bool looksDifferentWithFocus(QWidget *widget)
+{
+    const QImage focused = widget->grab().toImage();
+    widget->clearFocus();
+    const QImage plain = widget->grab().toImage();
+    widget->setFocus(Qt::TabFocusReason);
+    return focused != plain;
+}
+
+QString nameOf(const QWidget *widget)
+{
+    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName() + u' ' +
+           widget->accessibleName();
+}
+
 } // namespace
 
 class GalleryTest : public TestCase
@@ -54,12 +88,14 @@ private Q_SLOTS:
     void theStyleFileKeepsItsAuthorsRules();
     void textAndMarksHaveEnoughContrast();
     void everyFocusableControlHasANameAndARole();
+    void theTabKeyReachesEveryControlAndItsFocusIsSeen();
     void thePageListIsFilteredAndOperatedByKeys();
     void aBrokenRuleIsFoundWhereItWasTyped();
     void theFontSizeReachesEveryWidget();
     void theCommandLineRefusesWhatItDoesNotKnow();
 
 private:
+    QList<QWidget *> tabOnceAround(QWidget *start) const;
     std::unique_ptr<GalleryApplication> application_;
     std::unique_ptr<GalleryWindow> window_;
 };
@@ -138,6 +174,42 @@ void GalleryTest::everyFocusableControlHasANameAndARole()
         }
     }
     QVERIFY(seen > 50);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+QList<QWidget *> GalleryTest::tabOnceAround(QWidget *start) const
+{
+    constexpr int mostStops = 300;
+    QList<QWidget *> reached;
+    start->setFocus(Qt::TabFocusReason);
+    do {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached.append(QApplication::focusWidget());
+    } while (reached.last() != start && reached.size() < mostStops);
+    return reached;
+}
+
+void GalleryTest::theTabKeyReachesEveryControlAndItsFocusIsSeen()
+{
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    auto *list = window_->findChild<QListWidget *>(QStringLiteral("GalleryPages"));
+    QStringList faults;
+    for (int i = 0; i < pageCatalog().size(); ++i) {
+        window_->showPage(i);
+        QList<QWidget *> reached = tabOnceAround(list);
+        QVERIFY2(reached.last() == list,
+                 qPrintable(pageCatalog()[i].id + u' ' + nameOf(reached.last())));
+        for (QWidget *widget : window_->page(i)->findChildren<QWidget *>()) {
+            if (isTabStop(widget) && !holds(reached, widget))
+                faults.append(QStringLiteral("not reached: ") + nameOf(widget));
+        }
+        for (QWidget *widget : std::as_const(reached)) {
+            widget->setFocus(Qt::TabFocusReason);
+            if (!looksDifferentWithFocus(widget))
+                faults.append(QStringLiteral("focus not seen: ") + nameOf(widget));
+        }
+    }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 

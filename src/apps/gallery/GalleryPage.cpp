@@ -21,6 +21,7 @@ QVBoxLayout *GalleryPage::addSection(const QString &title, const QString &explan
     if (!explanation.isEmpty()) {
         auto *label = new QLabel(explanation, group);
         label->setWordWrap(true);
+        label->setProperty("dim", true);
         content->addWidget(label);
     }
     layout_->addWidget(group);
