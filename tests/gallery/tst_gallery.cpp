@@ -23,6 +23,7 @@
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolBox>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void thePageListIsFilteredAndOperatedByKeys();
     void aBrokenRuleIsFoundWhereItWasTyped();
     void theFontSizeReachesEveryWidget();
+    void aPlaceholderFollowsEverySwitch();
+    void theWheelScrollsPastControlsWithoutFocus();
     void theCommandLineRefusesWhatItDoesNotKnow();
 
 private:
@@ -272,6 +275,43 @@ void GalleryTest::theFontSizeReachesEveryWidget()
     for (const QLabel *label : window_->page(index)->findChildren<QLabel *>())
         QCOMPARE(label->font().pointSize(), 14);
     application_->setFontSize(-1);
+}
+
+void GalleryTest::aPlaceholderFollowsEverySwitch()
+{
+    QPlainTextEdit edit;
+    edit.setFocusPolicy(Qt::NoFocus);
+    edit.setPlaceholderText(QStringLiteral("nothing here"));
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    const QImage before = edit.grab().toImage();
+    for (const QString &theme : {QStringLiteral("Light"), QStringLiteral("Dark"),
+                                 QStringLiteral("Light"), QStringLiteral("Dark")})
+        application_->setTheme(theme);
+    QCOMPARE(edit.grab().toImage(), before);
+}
+
+void GalleryTest::theWheelScrollsPastControlsWithoutFocus()
+{
+    const int index = pageIndex(QStringLiteral("windows"));
+    window_->showPage(index);
+    auto *box = window_->page(index)->findChild<QSpinBox *>();
+    QVERIFY(box);
+    const auto turn = [box] {
+        const QPointF place = QRectF(box->rect()).center();
+        QWheelEvent wheel(place, box->mapToGlobal(place), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box, &wheel);
+    };
+    box->clearFocus();
+    turn();
+    QCOMPARE(box->value(), 0);
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    box->setFocus();
+    turn();
+    QCOMPARE(box->value(), 1);
+    box->setValue(0);
 }
 
 void GalleryTest::theCommandLineRefusesWhatItDoesNotKnow()

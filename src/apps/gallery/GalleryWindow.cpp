@@ -173,6 +173,9 @@ void GalleryWindow::createToolBar()
     bar->addAction(showLog_);
     showList_->setIcon(themedIcon(QStringLiteral("list_toggle_mode")));
     showLog_->setIcon(themedIcon(QStringLiteral("log")));
+    // In the menu the check mark tells more than the icon.
+    showList_->setIconVisibleInMenu(false);
+    showLog_->setIconVisibleInMenu(false);
     bar->addSeparator();
     auto *other = new QAction(themedIcon(QStringLiteral("theme")),
                               tr("Switch to the other theme (Ctrl+T)"), this);
@@ -274,6 +277,7 @@ void GalleryWindow::showPage(int index)
     if (!pages_[index]) {
         pages_[index] = pageCatalog()[index].create();
         connect(pages_[index], &GalleryPage::logged, log_, &LogPanel::addSignal);
+        pages_[index]->leaveWheelToScrolling();
         static_cast<QScrollArea *>(stack_->widget(index))->setWidget(pages_[index]);
         // A new page comes last in the tab order: the log has to come after it.
         log_->followInTabOrder(previousInFocusChain());
