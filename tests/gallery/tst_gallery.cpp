@@ -18,10 +18,14 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolBox>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,6 +46,37 @@ bool isOwnControl(const QWidget *widget)
     return true;
 }
 
+/// A control that the Tab key has to stop at: of the radio buttons of a group it is the chosen one.
+bool isTabStop(const QWidget *widget)
+{
+    const auto *radio = qobject_cast<const QRadioButton *>(widget);
+    return isOwnControl(widget) && widget->isVisible() && widget->isEnabled() &&
+           (!radio || radio->isChecked());
+}
+
+bool holds(const QList<QWidget *> &reached, const QWidget *control)
+{
+    return std::any_of(reached.begin(), reached.end(), [control](const QWidget *widget) {
+        return widget == control || control->isAncestorOf(widget) ||
+               widget == control->focusProxy();
+    });
+}
+
+bool looksDifferentWithFocus(QWidget *widget)
+{
+    const QImage focused = widget->grab().toImage();
+    widget->clearFocus();
+    const QImage plain = widget->grab().toImage();
+    widget->setFocus(Qt::TabFocusReason);
+    return focused != plain;
+}
+
+QString nameOf(const QWidget *widget)
+{
+    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName() + u' ' +
+           widget->accessibleName();
+}
+
 } // namespace
 
 class GalleryTest : public TestCase
@@ -54,12 +89,16 @@ private Q_SLOTS:
     void theStyleFileKeepsItsAuthorsRules();
     void textAndMarksHaveEnoughContrast();
     void everyFocusableControlHasANameAndARole();
+    void theTabKeyReachesEveryControlAndItsFocusIsSeen();
     void thePageListIsFilteredAndOperatedByKeys();
     void aBrokenRuleIsFoundWhereItWasTyped();
     void theFontSizeReachesEveryWidget();
+    void aPlaceholderFollowsEverySwitch();
+    void theWheelScrollsPastControlsWithoutFocus();
     void theCommandLineRefusesWhatItDoesNotKnow();
 
 private:
+    QList<QWidget *> tabOnceAround(QWidget *start) const;
     std::unique_ptr<GalleryApplication> application_;
     std::unique_ptr<GalleryWindow> window_;
 };
@@ -141,6 +180,42 @@ void GalleryTest::everyFocusableControlHasANameAndARole()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
 }
 
+QList<QWidget *> GalleryTest::tabOnceAround(QWidget *start) const
+{
+    constexpr int mostStops = 300;
+    QList<QWidget *> reached;
+    start->setFocus(Qt::TabFocusReason);
+    do {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached.append(QApplication::focusWidget());
+    } while (reached.last() != start && reached.size() < mostStops);
+    return reached;
+}
+
+void GalleryTest::theTabKeyReachesEveryControlAndItsFocusIsSeen()
+{
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    auto *list = window_->findChild<QListWidget *>(QStringLiteral("GalleryPages"));
+    QStringList faults;
+    for (int i = 0; i < pageCatalog().size(); ++i) {
+        window_->showPage(i);
+        QList<QWidget *> reached = tabOnceAround(list);
+        QVERIFY2(reached.last() == list,
+                 qPrintable(pageCatalog()[i].id + u' ' + nameOf(reached.last())));
+        for (QWidget *widget : window_->page(i)->findChildren<QWidget *>()) {
+            if (isTabStop(widget) && !holds(reached, widget))
+                faults.append(QStringLiteral("not reached: ") + nameOf(widget));
+        }
+        for (QWidget *widget : std::as_const(reached)) {
+            widget->setFocus(Qt::TabFocusReason);
+            if (!looksDifferentWithFocus(widget))
+                faults.append(QStringLiteral("focus not seen: ") + nameOf(widget));
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
 void GalleryTest::thePageListIsFilteredAndOperatedByKeys()
 {
     auto *list = window_->findChild<QListWidget *>(QStringLiteral("GalleryPages"));
@@ -200,6 +275,43 @@ void GalleryTest::theFontSizeReachesEveryWidget()
     for (const QLabel *label : window_->page(index)->findChildren<QLabel *>())
         QCOMPARE(label->font().pointSize(), 14);
     application_->setFontSize(-1);
+}
+
+void GalleryTest::aPlaceholderFollowsEverySwitch()
+{
+    QPlainTextEdit edit;
+    edit.setFocusPolicy(Qt::NoFocus);
+    edit.setPlaceholderText(QStringLiteral("nothing here"));
+    edit.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    const QImage before = edit.grab().toImage();
+    for (const QString &theme : {QStringLiteral("Light"), QStringLiteral("Dark"),
+                                 QStringLiteral("Light"), QStringLiteral("Dark")})
+        application_->setTheme(theme);
+    QCOMPARE(edit.grab().toImage(), before);
+}
+
+void GalleryTest::theWheelScrollsPastControlsWithoutFocus()
+{
+    const int index = pageIndex(QStringLiteral("windows"));
+    window_->showPage(index);
+    auto *box = window_->page(index)->findChild<QSpinBox *>();
+    QVERIFY(box);
+    const auto turn = [box] {
+        const QPointF place = QRectF(box->rect()).center();
+        QWheelEvent wheel(place, box->mapToGlobal(place), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box, &wheel);
+    };
+    box->clearFocus();
+    turn();
+    QCOMPARE(box->value(), 0);
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    box->setFocus();
+    turn();
+    QCOMPARE(box->value(), 1);
+    box->setValue(0);
 }
 
 void GalleryTest::theCommandLineRefusesWhatItDoesNotKnow()

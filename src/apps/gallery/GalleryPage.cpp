@@ -1,8 +1,13 @@
 #include "GalleryPage.h"
 
 #include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 GalleryPage::GalleryPage(QWidget *parent)
@@ -21,10 +26,34 @@ QVBoxLayout *GalleryPage::addSection(const QString &title, const QString &explan
     if (!explanation.isEmpty()) {
         auto *label = new QLabel(explanation, group);
         label->setWordWrap(true);
+        label->setProperty("dim", true);
         content->addWidget(label);
     }
     layout_->addWidget(group);
     return content;
+}
+
+void GalleryPage::leaveWheelToScrolling()
+{
+    for (QWidget *widget : findChildren<QWidget *>()) {
+        const bool isTurnedByWheel =
+            qobject_cast<QAbstractSpinBox *>(widget) || qobject_cast<QComboBox *>(widget) ||
+            (qobject_cast<QAbstractSlider *>(widget) && !qobject_cast<QScrollBar *>(widget));
+        if (!isTurnedByWheel)
+            continue;
+        if (widget->focusPolicy() == Qt::WheelFocus)
+            widget->setFocusPolicy(Qt::StrongFocus);
+        widget->installEventFilter(this);
+    }
+}
+
+bool GalleryPage::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void GalleryPage::addStretch()

@@ -17,6 +17,11 @@ public:
     /// Called after a new theme or font size is in force, for what the page shows of the look:
     /// widgets are not sent a style event for every switch.
     virtual void lookChanged() {}
+    /// Lets the mouse wheel scroll the page past controls that don't have the focus, instead of
+    /// changing their values.
+    void leaveWheelToScrolling();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     /// A line for the log panel.

@@ -43,13 +43,16 @@ ZelSettings windowSettings()
 
 GalleryWindow::GalleryWindow(GalleryApplication *application)
     : application_(application)
-    , stack_(new QStackedWidget(this))
-    , log_(new LogPanel(this))
+    , stack_(nullptr)
+    , log_(nullptr)
     , pages_(pageCatalog().size(), nullptr)
 {
     setWindowTitle(tr("Widget gallery"));
     setWindowIcon(themedIcon(QStringLiteral("widgets")));
+    // The order of creation is the order of the Tab key.
     listPanel_ = createPageList();
+    stack_ = new QStackedWidget(this);
+    log_ = new LogPanel(this);
 
     auto *right = new QSplitter(Qt::Vertical, this);
     right->setObjectName(QStringLiteral("GalleryLogSplitter"));
@@ -79,6 +82,8 @@ GalleryWindow::GalleryWindow(GalleryApplication *application)
     connect(application_, &GalleryApplication::fontSizeChanged, this, &GalleryWindow::tellPages);
     restoreLayout();
     showPage(0);
+    list_->setFocus();
+    fitListToTitles();
 }
 
 QWidget *GalleryWindow::createPageList()
@@ -92,6 +97,7 @@ QWidget *GalleryWindow::createPageList()
     list_ = new QListWidget(panel);
     list_->setObjectName(QStringLiteral("GalleryPages"));
     list_->setAccessibleName(tr("Pages"));
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const PageEntry &entry : pageCatalog()) {
         auto *item = new QListWidgetItem(themedIcon(entry.icon), entry.title, list_);
         item->setToolTip(entry.purpose);
@@ -167,6 +173,9 @@ void GalleryWindow::createToolBar()
     bar->addAction(showLog_);
     showList_->setIcon(themedIcon(QStringLiteral("list_toggle_mode")));
     showLog_->setIcon(themedIcon(QStringLiteral("log")));
+    // In the menu the check mark tells more than the icon.
+    showList_->setIconVisibleInMenu(false);
+    showLog_->setIconVisibleInMenu(false);
     bar->addSeparator();
     auto *other = new QAction(themedIcon(QStringLiteral("theme")),
                               tr("Switch to the other theme (Ctrl+T)"), this);
@@ -185,6 +194,8 @@ void GalleryWindow::createToolBar()
     label->setBuddy(fontSizeBox_);
     bar->addWidget(label);
     bar->addWidget(fontSizeBox_);
+    setTabOrder(fontSizeBox_, filter_);
+    setTabOrder(filter_, list_);
     updateFontSizeBox();
     connect(fontSizeBox_, &QComboBox::activated, this, &GalleryWindow::chooseFontSize);
     connect(application_, &GalleryApplication::fontSizeChanged, this,
@@ -233,8 +244,16 @@ void GalleryWindow::stepPage(int step)
     }
 }
 
+/// The titles are read whole at every font size.
+void GalleryWindow::fitListToTitles()
+{
+    list_->ensurePolished();
+    list_->setMinimumWidth(list_->sizeHintForColumn(0) + 4 * list_->frameWidth());
+}
+
 void GalleryWindow::tellPages()
 {
+    fitListToTitles();
     for (GalleryPage *page : std::as_const(pages_)) {
         if (page)
             page->lookChanged();
@@ -258,7 +277,10 @@ void GalleryWindow::showPage(int index)
     if (!pages_[index]) {
         pages_[index] = pageCatalog()[index].create();
         connect(pages_[index], &GalleryPage::logged, log_, &LogPanel::addSignal);
+        pages_[index]->leaveWheelToScrolling();
         static_cast<QScrollArea *>(stack_->widget(index))->setWidget(pages_[index]);
+        // A new page comes last in the tab order: the log has to come after it.
+        log_->followInTabOrder(previousInFocusChain());
     }
     stack_->setCurrentIndex(index);
     list_->setCurrentRow(index);

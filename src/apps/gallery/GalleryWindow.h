@@ -41,6 +41,7 @@ private:
     void chooseFontSize(int row);
     void updateFontSizeBox();
     void stepPage(int step);
+    void fitListToTitles();
     void tellPages();
     void restoreLayout();
     void saveLayout() const;

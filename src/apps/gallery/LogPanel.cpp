@@ -40,8 +40,10 @@ QString kindOf(QtMsgType type)
 
 LogPanel::LogPanel(QWidget *parent)
     : QWidget(parent)
+    , clearButton_(new QToolButton(this))
     , view_(new QPlainTextEdit(this))
 {
+    view_->setObjectName(QStringLiteral("GalleryCode"));
     view_->setReadOnly(true);
     view_->setMaximumBlockCount(keptLines);
     view_->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -50,16 +52,15 @@ LogPanel::LogPanel(QWidget *parent)
 
     auto *title = new QLabel(tr("Signals and messages"), this);
     title->setObjectName(QStringLiteral("GalleryPanelTitle"));
-    auto *clearButton = new QToolButton(this);
-    clearButton->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/delete.svg")));
-    clearButton->setToolTip(tr("Clear the log"));
-    clearButton->setAccessibleName(clearButton->toolTip());
-    clearButton->setAutoRaise(true);
-    connect(clearButton, &QToolButton::clicked, this, &LogPanel::clear);
+    clearButton_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/delete.svg")));
+    clearButton_->setToolTip(tr("Clear the log"));
+    clearButton_->setAccessibleName(clearButton_->toolTip());
+    clearButton_->setAutoRaise(true);
+    connect(clearButton_, &QToolButton::clicked, this, &LogPanel::clear);
 
     auto *header = new QHBoxLayout;
     header->addWidget(title, 1);
-    header->addWidget(clearButton);
+    header->addWidget(clearButton_);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 4, 8, 8);
     layout->setSpacing(4);
@@ -73,6 +74,12 @@ LogPanel::LogPanel(QWidget *parent)
 LogPanel::~LogPanel()
 {
     qInstallMessageHandler(std::exchange(previousHandler, nullptr));
+}
+
+void LogPanel::followInTabOrder(QWidget *widget)
+{
+    setTabOrder(widget, clearButton_);
+    setTabOrder(clearButton_, view_);
 }
 
 QString LogPanel::text() const

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QPlainTextEdit;
+class QToolButton;
 
 /// The panel below the page: the signals that the page's widgets emit and the messages that go
 /// through Qt's message functions, newest last.
@@ -14,6 +15,8 @@ public:
     explicit LogPanel(QWidget *parent = nullptr);
     ~LogPanel() override;
 
+    /// Makes the Tab key go from a widget to the panel.
+    void followInTabOrder(QWidget *widget);
     QString text() const;
 
 public Q_SLOTS:
@@ -25,5 +28,6 @@ private:
     static void handleMessage(QtMsgType type, const QMessageLogContext &context,
                               const QString &text);
 
+    QToolButton *clearButton_;
     QPlainTextEdit *view_;
 };

@@ -1,5 +1,7 @@
 #include "StyleFile.h"
 
+#include <ZelCore/ZelGlobalIconCache>
+
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -47,6 +49,16 @@ QMap<QString, Palette> palettes()
             palettes[theme.key()].insert(value.key(), value.value().toString());
     }
     return palettes;
+}
+
+QString themeInForce()
+{
+    return ZelGlobalIconCache::darkTheme() ? QStringLiteral("Dark") : QStringLiteral("Light");
+}
+
+Palette paletteInForce()
+{
+    return palettes().value(themeInForce());
 }
 
 QList<ContrastPair> contrastPairs()

@@ -12,6 +12,9 @@ using Palette = QMap<QString, QString>;
 
 /// The palette of each theme, by theme name.
 QMap<QString, Palette> palettes();
+/// The name of the theme in force, and its palette.
+QString themeInForce();
+Palette paletteInForce();
 
 /// A text colour and what it is read on, by palette keys, and the contrast that it has to have.
 struct ContrastPair

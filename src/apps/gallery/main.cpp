@@ -7,6 +7,7 @@
 #include <ZelCore/ZelSettings>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -17,6 +18,7 @@ int main(int argc, char **argv)
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName(QStringLiteral("gallery"));
     QApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
+
     const GalleryOptions options = GalleryOptions::fromArguments(QApplication::arguments());
     if (options.listPages) {
         for (const PageEntry &page : pageCatalog())
@@ -25,6 +27,10 @@ int main(int argc, char **argv)
     }
     if (!options.settingsFile.isEmpty())
         ZelSettings::setStorePath(options.settingsFile);
+    // Pictures are taken of the look as delivered, and leave the user's settings alone.
+    const QTemporaryDir noSettings;
+    if (options.settingsFile.isEmpty() && !options.screenshotFolder.isEmpty())
+        ZelSettings::setStorePath(noSettings.filePath(QStringLiteral("settings.json")));
 
     GalleryApplication application(options.theme);
     GalleryWindow window(&application);

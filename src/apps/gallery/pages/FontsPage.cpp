@@ -25,7 +25,7 @@ public:
         setSizeHint(width, height);
         setMinimumSizeHint(width, height);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        auto *label = new QLabel(QStringLiteral("%1 M x %2 lines").arg(width).arg(height), this);
+        auto *label = new QLabel(QStringLiteral("%1 \u00d7 %2").arg(width).arg(height), this);
         label->setAlignment(Qt::AlignCenter);
         label->setFrameShape(QFrame::Box);
         auto *layout = new QVBoxLayout(this);
@@ -77,7 +77,9 @@ void FontsPage::addMetrics()
 
 void FontsPage::addSizedWidgets()
 {
-    QVBoxLayout *section = addSection(tr("Widgets sized in font units"));
+    QVBoxLayout *section =
+        addSection(tr("Widgets sized in font units"),
+                   tr("So many widths of an M by so many lines: they grow with the font."));
     auto *row = new QHBoxLayout;
     row->addWidget(new SizedArea(10, 2, this));
     row->addWidget(new SizedArea(16, 4, this));
@@ -118,7 +120,7 @@ void FontsPage::addButtons()
             for (const bool enabled : {true, false}) {
                 auto *button =
                     new ZelPushButton(ZelStyleIcon(QStringLiteral(":/ui/icons/save.svg")),
-                                      enabled ? rank : rank + tr(" (off)"), this);
+                                      enabled ? rank : tr("Disabled"), this);
                 button->setProperty("rank", rank);
                 button->setProperty("dimension", dimension);
                 button->setEnabled(enabled);

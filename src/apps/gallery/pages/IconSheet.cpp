@@ -4,17 +4,26 @@
 #include <ZelWidgets/ZelStyleIcon>
 
 #include <QDir>
+#include <QHelpEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int gap = 4;
+constexpr int gap = 3;
+constexpr int cellMargin = 4;
 constexpr int sizes[] = {16, 24, 48};
 constexpr QIcon::Mode modes[] = {QIcon::Normal, QIcon::Active, QIcon::Disabled, QIcon::Selected};
 constexpr QIcon::State states[] = {QIcon::Off, QIcon::On};
+constexpr const char *modeNames[] = {
+    QT_TRANSLATE_NOOP("IconSheet", "normal"), QT_TRANSLATE_NOOP("IconSheet", "hover"),
+    QT_TRANSLATE_NOOP("IconSheet", "disabled"), QT_TRANSLATE_NOOP("IconSheet", "selected")};
+constexpr const char *stateNames[] = {QT_TRANSLATE_NOOP("IconSheet", "off"),
+                                      QT_TRANSLATE_NOOP("IconSheet", "on")};
 
 QIcon loadIcon(const QString &path)
 {
@@ -53,11 +62,43 @@ IconSheet::IconSheet(const QString &folder, const QStringList &patterns, QWidget
 
 QSize IconSheet::cellSize() const
 {
-    int width = gap;
-    for (const int size : sizes)
-        width += int(std::size(modes)) * (size + gap);
-    const int height = 2 * (sizes[2] + gap) + fontMetrics().height() + 3 * gap;
-    return {width + 2 * gap, height};
+    const QRect last = slotRect({2, int(std::size(modes)) - 1, int(std::size(states)) - 1});
+    return {last.right() + 1 + cellMargin, last.bottom() + 1 + 2 * cellMargin};
+}
+
+/// Where a picture lies in its cell: the small sizes above each other, the largest beside them.
+QRect IconSheet::slotRect(const Slot &slot) const
+{
+    const int side = sizes[slot.size];
+    int left = cellMargin;
+    int top = 2 * cellMargin + fontMetrics().height();
+    if (slot.size == 1)
+        top += int(std::size(states)) * (sizes[0] + gap) + gap;
+    else if (slot.size == 2)
+        left += int(std::size(modes)) * (sizes[1] + gap) + gap;
+    return {left + slot.mode * (side + gap), top + slot.state * (side + gap), side, side};
+}
+
+QRect IconSheet::cellRect(int index) const
+{
+    const int columns = columnsFor(width());
+    const QSize cell = cellSize();
+    const QPoint origin(index % columns * cell.width(), index / columns * cell.height());
+    return QStyle::visualRect(layoutDirection(), rect(), QRect(origin, cell));
+}
+
+template <typename Visit>
+void IconSheet::forEachSlot(const QRect &cell, Visit visit) const
+{
+    for (int size = 0; size < int(std::size(sizes)); ++size) {
+        for (int mode = 0; mode < int(std::size(modes)); ++mode) {
+            for (int state = 0; state < int(std::size(states)); ++state) {
+                const Slot slot{size, mode, state};
+                visit(slot, QStyle::visualRect(layoutDirection(), cell,
+                                               slotRect(slot).translated(cell.topLeft())));
+            }
+        }
+    }
 }
 
 int IconSheet::columnsFor(int width) const
@@ -85,32 +126,49 @@ int IconSheet::heightForWidth(int width) const
 void IconSheet::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const QSize cell = cellSize();
-    const int columns = columnsFor(width());
     for (int i = 0; i < int(entries_.size()); ++i) {
-        const QPoint origin(i % columns * cell.width(), i / columns * cell.height());
-        if (event->rect().intersects(QRect(origin, cell)))
-            paintCell(painter, origin, entries_[size_t(i)]);
+        const QRect cell = cellRect(i);
+        if (event->rect().intersects(cell))
+            paintCell(painter, cell, entries_[size_t(i)]);
     }
 }
 
-void IconSheet::paintCell(QPainter &painter, QPoint origin, const Entry &entry) const
+void IconSheet::paintCell(QPainter &painter, const QRect &cell, const Entry &entry) const
 {
     painter.setPen(palette().color(QPalette::WindowText));
-    const QRect title(origin + QPoint(gap, gap),
-                      QSize(cellSize().width() - 2 * gap, fontMetrics().height()));
-    painter.drawText(title, Qt::AlignLeading | Qt::AlignVCenter,
-                     fontMetrics().elidedText(entry.name, Qt::ElideRight, title.width()));
-    int x = origin.x() + gap;
-    const int top = title.bottom() + gap;
-    for (const int size : sizes) {
-        for (const QIcon::Mode mode : modes) {
-            int y = top;
-            for (const QIcon::State state : states) {
-                entry.icon.paint(&painter, QRect(x, y, size, size), Qt::AlignCenter, mode, state);
-                y += size + gap;
-            }
-            x += size + gap;
-        }
+    const QRect title(cell.topLeft() + QPoint(cellMargin, cellMargin),
+                      QSize(cell.width() - 2 * cellMargin, fontMetrics().height()));
+    painter.drawText(
+        title, int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter)),
+        fontMetrics().elidedText(entry.name, Qt::ElideRight, title.width()));
+    forEachSlot(cell, [&](const Slot &slot, const QRect &place) {
+        entry.icon.paint(&painter, place, Qt::AlignCenter, modes[slot.mode], states[slot.state]);
+    });
+}
+
+QString IconSheet::describe(QPoint position) const
+{
+    QString text;
+    for (int i = 0; i < int(entries_.size()); ++i) {
+        const QRect cell = cellRect(i);
+        if (!cell.contains(position))
+            continue;
+        forEachSlot(cell, [&](const Slot &slot, const QRect &place) {
+            if (place.adjusted(0, 0, gap, gap).contains(position))
+                text = tr("%1, %2 pixels, %3, %4")
+                           .arg(entries_[size_t(i)].name)
+                           .arg(sizes[slot.size])
+                           .arg(tr(modeNames[slot.mode]), tr(stateNames[slot.state]));
+        });
     }
+    return text;
+}
+
+bool IconSheet::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    QToolTip::showText(help->globalPos(), describe(help->pos()), this);
+    return true;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 /// Paints every icon of a resource folder in all modes and states at three sizes, with its name.
+/// A tool tip tells which is which.
 class IconSheet : public QWidget
 {
     Q_OBJECT
@@ -20,6 +21,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     struct Entry
@@ -28,9 +30,22 @@ private:
         QIcon icon;
     };
 
+    /// One picture of a cell, by its places in the lists of sizes, modes and states.
+    struct Slot
+    {
+        int size;
+        int mode;
+        int state;
+    };
+
     QSize cellSize() const;
+    QRect cellRect(int index) const;
+    QRect slotRect(const Slot &slot) const;
+    template <typename Visit>
+    void forEachSlot(const QRect &cell, Visit visit) const;
     int columnsFor(int width) const;
-    void paintCell(QPainter &painter, QPoint origin, const Entry &entry) const;
+    void paintCell(QPainter &painter, const QRect &cell, const Entry &entry) const;
+    QString describe(QPoint position) const;
 
     std::vector<Entry> entries_;
 };

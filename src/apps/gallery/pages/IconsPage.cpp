@@ -8,6 +8,7 @@
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelSvgIcon>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -22,6 +23,26 @@ namespace {
 QString widgetIcon(const char *name)
 {
     return QStringLiteral(":/ui/widgetIcons/") + QLatin1String(name);
+}
+
+struct IconSample
+{
+    QString name;
+    bool checkable;
+    bool checked;
+    bool enabled;
+};
+
+/// The buttons that show one icon, a column of the tables each.
+const QList<IconSample> &samples()
+{
+    static const QList<IconSample> list{
+        {QCoreApplication::translate("IconsPage", "push"), false, false, true},
+        {QCoreApplication::translate("IconsPage", "toggle, off"), true, false, true},
+        {QCoreApplication::translate("IconsPage", "toggle, on"), true, true, true},
+        {QCoreApplication::translate("IconsPage", "disabled"), false, false, false},
+        {QCoreApplication::translate("IconsPage", "disabled, on"), true, true, false}};
+    return list;
 }
 
 QString readText(const QString &path)
@@ -42,32 +63,42 @@ IconsPage::IconsPage(QWidget *parent)
     addStretch();
 }
 
-void IconsPage::addIconRow(QVBoxLayout *section, const QString &title, const QIcon &icon)
+QGridLayout *IconsPage::addIconTable(QVBoxLayout *section)
 {
-    auto *row = new QHBoxLayout;
-    auto *label = new QLabel(title, this);
-    label->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
-    row->addWidget(label);
-    const struct
-    {
-        QString name;
-        bool checkable;
-        bool enabled;
-    } buttons[] = {
-        {tr("push"), false, true}, {tr("toggle"), true, true}, {tr("disabled"), false, false}};
-    for (const auto &kind : buttons) {
+    auto *table = new QGridLayout;
+    table->setHorizontalSpacing(16);
+    table->setVerticalSpacing(4);
+    int column = 1;
+    for (const IconSample &sample : samples()) {
+        auto *label = new QLabel(sample.name, this);
+        label->setProperty("dim", true);
+        table->addWidget(label, 0, column++, Qt::AlignHCenter);
+    }
+    table->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 40);
+    table->setColumnStretch(column, 1);
+    section->addLayout(table);
+    return table;
+}
+
+void IconsPage::addIconRow(QGridLayout *table, const QString &title, const QIcon &icon)
+{
+    const int row = table->rowCount();
+    table->addWidget(new QLabel(title, this), row, 0);
+    int column = 1;
+    for (const IconSample &sample : samples()) {
         auto *button = new QToolButton(this);
         button->setIcon(icon);
         button->setIconSize(QSize(24, 24));
-        button->setCheckable(kind.checkable);
-        button->setEnabled(kind.enabled);
-        button->setToolTip(title + QStringLiteral(", ") + kind.name);
+        // Only a button of this kind shows the hover picture of its icon.
+        button->setAutoRaise(true);
+        button->setCheckable(sample.checkable);
+        button->setChecked(sample.checked);
+        button->setEnabled(sample.enabled);
+        button->setToolTip(title + QStringLiteral(", ") + sample.name);
         button->setAccessibleName(button->toolTip());
         watch(button, &QToolButton::clicked, QStringLiteral("clicked"));
-        row->addWidget(button);
+        table->addWidget(button, row, column++, Qt::AlignHCenter);
     }
-    row->addStretch(1);
-    section->addLayout(row);
 }
 
 void IconsPage::addFamilies()
@@ -75,12 +106,13 @@ void IconsPage::addFamilies()
     QVBoxLayout *section = addSection(
         tr("Families and redirects"),
         tr("A family has a file for each mode and state; a redirect names one picture of a family. "
-           "Move the mouse over the buttons, and switch the toggles on."));
+           "Move the mouse over the buttons, and switch the toggles."));
+    QGridLayout *table = addIconTable(section);
     for (const char *name : {"checkbox.zelsvg", "radio.zelsvg", "arrow_down.zelsvg",
                              "checkbox_checked.zelsvgr", "checkbox_checked_disabled.zelsvgr"}) {
         const QString path = widgetIcon(name);
         if (QFile::exists(path))
-            addIconRow(section, QLatin1String(name),
+            addIconRow(table, QLatin1String(name),
                        QIcon(HandleSvgInStyle::iconEngineForFile(path)));
     }
     ZelCombinedIcon combined;
@@ -88,7 +120,7 @@ void IconsPage::addFamilies()
                             QIcon::On);
     combined.addIconForMode(ZelStyleIcon(QStringLiteral(":/ui/icons/unlock.svg")), QIcon::Normal,
                             QIcon::Off);
-    addIconRow(section, tr("combined: unlock and lock"), combined);
+    addIconRow(table, tr("combined: unlock and lock"), combined);
 }
 
 void IconsPage::addPinned()
@@ -96,12 +128,13 @@ void IconsPage::addPinned()
     QVBoxLayout *section =
         addSection(tr("Pinned icons"), tr("A pinned icon shows one mode and state whatever the "
                                           "button's are."));
+    QGridLayout *table = addIconTable(section);
     const ZelStyleIcon icon(QStringLiteral(":/ui/icons/save.svg"));
-    addIconRow(section, tr("not pinned"), icon);
-    addIconRow(section, QStringLiteral("active()"), icon.active());
-    addIconRow(section, QStringLiteral("inactive()"), icon.inactive());
-    addIconRow(section, QStringLiteral("hover()"), icon.hover());
-    addIconRow(section, QStringLiteral("disabled()"), icon.disabled());
+    addIconRow(table, tr("not pinned"), icon);
+    addIconRow(table, QStringLiteral("active()"), icon.active());
+    addIconRow(table, QStringLiteral("inactive()"), icon.inactive());
+    addIconRow(table, QStringLiteral("hover()"), icon.hover());
+    addIconRow(table, QStringLiteral("disabled()"), icon.disabled());
 }
 
 void IconsPage::addPlainSvg()
@@ -109,10 +142,11 @@ void IconsPage::addPlainSvg()
     QVBoxLayout *section = addSection(
         tr("Plain documents"), tr("An icon from a document without a theme, as it is and with its "
                                   "colours overridden."));
+    QGridLayout *table = addIconTable(section);
     ZelSvgIcon plain = ZelSvgIcon::fromFile(QStringLiteral(":/ui/icons/folder.svg"));
-    addIconRow(section, tr("as drawn"), plain);
+    addIconRow(table, tr("as drawn"), plain);
     plain.overrideColor(QStringLiteral("#e08030"));
-    addIconRow(section, QStringLiteral("overrideColor(\"#e08030\")"), plain);
+    addIconRow(table, QStringLiteral("overrideColor(\"#e08030\")"), plain);
 }
 
 void IconsPage::addLiveDocument()
@@ -121,6 +155,7 @@ void IconsPage::addLiveDocument()
         addSection(tr("Live document"),
                    tr("Type a document with colour markers; messages appear in the log."));
     auto *editor = new QPlainTextEdit(this);
+    editor->setObjectName(QStringLiteral("GalleryCode"));
     editor->setAccessibleName(tr("SVG document"));
     editor->setTabChangesFocus(true);
     editor->setMinimumHeight(fontMetrics().height() * 12);

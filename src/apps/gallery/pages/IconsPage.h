@@ -2,6 +2,7 @@
 
 #include "GalleryPage.h"
 
+class QGridLayout;
 class QIcon;
 class QLabel;
 class QPlainTextEdit;
@@ -19,5 +20,6 @@ private:
     void addPinned();
     void addPlainSvg();
     void addLiveDocument();
-    void addIconRow(QVBoxLayout *section, const QString &title, const QIcon &icon);
+    QGridLayout *addIconTable(QVBoxLayout *section);
+    void addIconRow(QGridLayout *table, const QString &title, const QIcon &icon);
 };

@@ -1,5 +1,7 @@
 #include "PlainWidgetsPage.h"
 
+#include "StyleFile.h"
+
 #include <ZelWidgets/ZelStyleIcon>
 
 #include <QCalendarWidget>
@@ -28,9 +30,11 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTextBrowser>
+#include <QTextCharFormat>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QToolBox>
@@ -39,6 +43,14 @@
 #include <QVBoxLayout>
 
 namespace {
+
+/// Height of a calendar in text lines, and what each line gets besides the text.
+constexpr int calendarLines = 9;
+constexpr int calendarLeading = 8;
+
+/// Height of a widget in text lines that follows the font.
+constexpr const char *linesProperty = "galleryLines";
+constexpr int lineLeading = 5;
 
 QIcon icon(const char *name)
 {
@@ -55,6 +67,20 @@ QWidget *inColumn(const QList<QWidget *> &widgets)
         layout->addWidget(widget);
     layout->addStretch(1);
     return holder;
+}
+
+void setLines(QWidget *widget, int lines)
+{
+    widget->setProperty(linesProperty, lines);
+}
+
+/// What stands in a container, away from its border.
+QLabel *content(const QString &text)
+{
+    auto *label = new QLabel(text);
+    label->setMargin(8);
+    label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    return label;
 }
 
 template <typename Widget>
@@ -75,7 +101,7 @@ PlainWidgetsPage::PlainWidgetsPage(QWidget *parent)
               {tr("Check boxes"), &PlainWidgetsPage::checkBoxes},
               {tr("Radio buttons"), &PlainWidgetsPage::radioButtons},
               {tr("Dialog buttons"), &PlainWidgetsPage::dialogButtons}},
-             3);
+             4);
     addPairs(tr("Text and choice"),
              {{tr("Line edits"), &PlainWidgetsPage::lineEdits},
               {tr("Combo boxes"), &PlainWidgetsPage::comboBoxes},
@@ -94,7 +120,7 @@ PlainWidgetsPage::PlainWidgetsPage(QWidget *parent)
              {{tr("List"), &PlainWidgetsPage::lists},
               {tr("Tree"), &PlainWidgetsPage::trees},
               {tr("Table"), &PlainWidgetsPage::tables}},
-             3);
+             2);
     addPairs(tr("Calendar"), {{tr("Calendar"), &PlainWidgetsPage::calendars}}, 1);
     addPairs(tr("Containers"),
              {{tr("Tabs"), &PlainWidgetsPage::tabs},
@@ -104,19 +130,42 @@ PlainWidgetsPage::PlainWidgetsPage(QWidget *parent)
               {tr("Docks"), &PlainWidgetsPage::docks}},
              2);
     addStretch();
+    lookChanged();
+}
+
+void PlainWidgetsPage::lookChanged()
+{
+    ensurePolished();
+    const StyleFile::Palette palette = StyleFile::paletteInForce();
+    QTextCharFormat weekend;
+    weekend.setForeground(StyleFile::color(palette.value(QStringLiteral("@error@"))));
+    for (QCalendarWidget *calendar : findChildren<QCalendarWidget *>()) {
+        for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+            calendar->setWeekdayTextFormat(day, weekend);
+        calendar->setMinimumHeight(calendarLines * (fontMetrics().height() + calendarLeading));
+    }
+    for (QWidget *widget : findChildren<QWidget *>()) {
+        const QVariant lines = widget->property(linesProperty);
+        if (lines.isValid())
+            widget->setFixedHeight(lines.toInt() * (fontMetrics().height() + lineLeading));
+    }
 }
 
 void PlainWidgetsPage::addPairs(const QString &title,
                                 const QList<std::pair<QString, Maker>> &makers, int columns)
 {
-    QVBoxLayout *section = addSection(title, tr("Enabled at the left, disabled at the right."));
+    QVBoxLayout *section =
+        addSection(title, tr("Each in two copies, one enabled and one disabled."));
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(28);
     grid->setVerticalSpacing(12);
     for (int i = 0; i < makers.size(); ++i) {
         auto *cell = new QGridLayout;
         cell->setHorizontalSpacing(12);
+        cell->setVerticalSpacing(6);
+        cell->setRowStretch(2, 1);
         auto *name = new QLabel(makers[i].first, this);
+        name->setProperty("heading", true);
         cell->addWidget(name, 0, 0, 1, 2);
         QWidget *enabled = (this->*makers[i].second)();
         QWidget *disabled = (this->*makers[i].second)();
@@ -125,7 +174,8 @@ void PlainWidgetsPage::addPairs(const QString &title,
         cell->addWidget(disabled, 1, 1);
         cell->setColumnStretch(0, 1);
         cell->setColumnStretch(1, 1);
-        grid->addLayout(cell, i / columns, i % columns);
+        const int span = i + 1 == makers.size() ? columns - i % columns : 1;
+        grid->addLayout(cell, i / columns, i % columns, 1, span);
         grid->setColumnStretch(i % columns, 1);
     }
     section->addLayout(grid);
@@ -222,7 +272,7 @@ QWidget *PlainWidgetsPage::textEdits()
                      "<ul><li>one</li><li>two</li></ul>"));
     auto *plain = named(new QPlainTextEdit(tr("Plain text\nof two lines")), tr("Plain text"));
     for (QWidget *edit : {static_cast<QWidget *>(rich), static_cast<QWidget *>(plain)})
-        edit->setFixedHeight(90);
+        setLines(edit, 5);
     plain->setTabChangesFocus(true);
     return inColumn({rich, plain});
 }
@@ -267,6 +317,7 @@ QWidget *PlainWidgetsPage::dateEdits()
 {
     auto *date = named(new QDateEdit(QDate(2024, 2, 29)), tr("Date"));
     date->setCalendarPopup(true);
+    date->calendarWidget()->setAccessibleName(tr("Date"));
     auto *time = named(new QTimeEdit(QTime(12, 30)), tr("Time"));
     return inColumn({date, time});
 }
@@ -275,14 +326,14 @@ QWidget *PlainWidgetsPage::sliders()
 {
     auto *horizontal = named(new QSlider(Qt::Horizontal), tr("Slider"));
     horizontal->setValue(40);
-    auto *ticked = named(new QSlider(Qt::Horizontal), tr("Slider with ticks"));
-    ticked->setTickPosition(QSlider::TicksBelow);
-    ticked->setTickInterval(10);
+    auto *inverted = named(new QSlider(Qt::Horizontal), tr("Inverted slider"));
+    inverted->setInvertedAppearance(true);
+    inverted->setValue(25);
     auto *vertical = named(new QSlider(Qt::Vertical), tr("Upright slider"));
     vertical->setFixedHeight(70);
     vertical->setValue(60);
     watch(horizontal, &QSlider::valueChanged, QStringLiteral("valueChanged"));
-    return inColumn({horizontal, ticked, vertical});
+    return inColumn({horizontal, inverted, vertical});
 }
 
 QWidget *PlainWidgetsPage::dials()
@@ -292,7 +343,7 @@ QWidget *PlainWidgetsPage::dials()
     dial->setFixedSize(64, 64);
     auto *number = new QLCDNumber(4);
     number->display(42);
-    number->setFixedHeight(40);
+    setLines(number, 2);
     connect(dial, &QDial::valueChanged, number, qOverload<int>(&QLCDNumber::display));
     return inColumn({dial, number});
 }
@@ -327,7 +378,7 @@ QWidget *PlainWidgetsPage::lists()
         list->addItem(new QListWidgetItem(icon(name), QLatin1String(name)));
     list->setCurrentRow(1);
     list->setAlternatingRowColors(true);
-    list->setFixedHeight(130);
+    setLines(list, 7);
     return list;
 }
 
@@ -344,8 +395,8 @@ QWidget *PlainWidgetsPage::trees()
         }
     }
     tree->topLevelItem(0)->setExpanded(true);
-    tree->header()->resizeSection(0, 120);
-    tree->setFixedHeight(130);
+    tree->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    setLines(tree, 7);
     return tree;
 }
 
@@ -356,10 +407,11 @@ QWidget *PlainWidgetsPage::tables()
         for (int column = 0; column < 3; ++column)
             table->setItem(row, column, new QTableWidgetItem(QString::number(row * 3 + column)));
     }
+    table->horizontalHeader()->setStretchLastSection(true);
     table->setTabKeyNavigation(false);
     table->setCurrentCell(1, 1);
     table->horizontalHeader()->setDefaultSectionSize(60);
-    table->setFixedHeight(150);
+    setLines(table, 7);
     return table;
 }
 
@@ -376,12 +428,13 @@ QWidget *PlainWidgetsPage::tabs()
     for (const auto position : {QTabWidget::North, QTabWidget::West}) {
         auto *tabs = named(new QTabWidget, tr("Tabs"));
         tabs->setTabPosition(position);
-        tabs->addTab(new QLabel(tr("First page")), tr("First"));
-        tabs->addTab(new QLabel(tr("Second page")), icon("lock"), tr("Second"));
-        tabs->addTab(new QLabel(tr("Third page")), tr("Third"));
+        tabs->addTab(content(tr("First page")), tr("One"));
+        tabs->addTab(content(tr("Second page")), icon("lock"), tr("Two"));
+        tabs->addTab(content(tr("Third page")), tr("Off"));
         tabs->setTabEnabled(2, false);
         tabs->setTabsClosable(position == QTabWidget::North);
-        tabs->setFixedHeight(position == QTabWidget::North ? 90 : 220);
+        tabs->tabBar()->setTabButton(2, QTabBar::RightSide, nullptr);
+        setLines(tabs, position == QTabWidget::North ? 5 : 10);
         watch(tabs, &QTabWidget::currentChanged, QStringLiteral("currentChanged"));
         widgets.append(tabs);
     }
@@ -404,9 +457,9 @@ QWidget *PlainWidgetsPage::groupBoxes()
 QWidget *PlainWidgetsPage::toolBoxes()
 {
     auto *box = new QToolBox;
-    box->addItem(new QLabel(tr("First content")), icon("folder"), tr("First"));
-    box->addItem(new QLabel(tr("Second content")), tr("Second"));
-    box->setMinimumHeight(120);
+    box->addItem(content(tr("First content")), icon("folder"), tr("First"));
+    box->addItem(content(tr("Second content")), tr("Second"));
+    setLines(box, 7);
     return box;
 }
 
@@ -428,9 +481,9 @@ QWidget *PlainWidgetsPage::menus()
         bar->addAction(icon(name), QLatin1String(name));
     bar->addSeparator();
     bar->addAction(icon("lock"), tr("lock"))->setCheckable(true);
-    window->setCentralWidget(new QLabel(tr("Centre")));
+    window->setCentralWidget(content(tr("Centre")));
     window->statusBar()->showMessage(tr("Status"));
-    window->setMinimumHeight(130);
+    setLines(window, 7);
     return window;
 }
 
@@ -439,9 +492,11 @@ QWidget *PlainWidgetsPage::docks()
     auto *window = new QMainWindow;
     window->setWindowFlags(Qt::Widget);
     auto *dock = new QDockWidget(tr("Dock"), window);
-    dock->setWidget(new QLabel(tr("Docked content")));
+    dock->setWidget(content(tr("Docked content")));
     window->addDockWidget(Qt::LeftDockWidgetArea, dock);
-    window->setCentralWidget(new QTextEdit(tr("Centre")));
-    window->setMinimumHeight(130);
+    auto *centre = named(new QTextEdit(tr("Centre")), tr("Centre"));
+    centre->setTabChangesFocus(true);
+    window->setCentralWidget(centre);
+    setLines(window, 7);
     return window;
 }

@@ -12,6 +12,8 @@ class PlainWidgetsPage : public GalleryPage
 public:
     explicit PlainWidgetsPage(QWidget *parent = nullptr);
 
+    void lookChanged() override;
+
 private:
     using Maker = QWidget *(PlainWidgetsPage::*)();
     void addPairs(const QString &title, const QList<std::pair<QString, Maker>> &makers,

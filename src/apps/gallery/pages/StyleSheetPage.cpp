@@ -1,6 +1,7 @@
 #include "StyleSheetPage.h"
 
-#include <ZelCore/ZelGlobalIconCache>
+#include "StyleFile.h"
+
 #include <ZelWidgets/ZelPushButton>
 #include <ZelWidgets/ZelStyleSheets>
 
@@ -10,15 +11,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
-
-namespace {
-
-QString themeInForce()
-{
-    return ZelGlobalIconCache::darkTheme() ? QStringLiteral("Dark") : QStringLiteral("Light");
-}
-
-} // namespace
 
 StyleSheetPage::StyleSheetPage(QWidget *parent)
     : GalleryPage(parent)
@@ -91,7 +83,7 @@ void StyleSheetPage::find(const QString &text)
 void StyleSheetPage::apply()
 {
     const QString text = edited_->toPlainText();
-    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(themeInForce(), text, false);
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(StyleFile::themeInForce(), text, false);
     finished_->setPlainText(qApp->styleSheet());
     verdict_->setText(tr("Applied."));
     log(tr("style sheet applied, %n character(s)", nullptr, int(text.size())));
@@ -113,7 +105,7 @@ void StyleSheetPage::check()
 
 void StyleSheetPage::restore()
 {
-    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(themeInForce(), QString(), false);
+    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(StyleFile::themeInForce(), QString(), false);
     lookChanged();
     verdict_->setText(tr("The theme's own sheet is in force."));
 }

@@ -11,16 +11,31 @@
 namespace {
 
 constexpr int tableHeight = 300;
+constexpr QSize swatchSize(32, 16);
 
-QIcon swatch(const QColor &color)
+/// A patch of a colour, with a sample of text on it if there is a colour for it.
+QIcon swatch(const QColor &ground, const QColor &text = {})
 {
-    QPixmap pixmap(32, 16);
+    constexpr int sharpness = 2;
+    QPixmap pixmap(sharpness * swatchSize);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
+    painter.scale(sharpness, sharpness);
     painter.setPen(QColor(128, 128, 128));
-    painter.setBrush(color);
-    painter.drawRect(0, 0, 31, 15);
-    return QIcon(pixmap);
+    painter.setBrush(ground);
+    const QRectF frame = QRectF(QPointF(), swatchSize).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRect(frame);
+    if (text.isValid()) {
+        QFont font;
+        font.setPixelSize(12);
+        painter.setFont(font);
+        painter.setPen(text);
+        painter.drawText(frame, Qt::AlignCenter, QStringLiteral("Aa"));
+    }
+    QIcon icon(pixmap);
+    // Without a picture of its own a selected row would tint the colour.
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
 }
 
 QTableWidgetItem *paletteCell(const QString &value)
@@ -53,9 +68,10 @@ QTableWidget *ThemePage::addTable(QVBoxLayout *section, const QStringList &colum
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setAlternatingRowColors(true);
     table->setTabKeyNavigation(false);
-    table->setIconSize(QSize(32, 16));
+    table->setIconSize(swatchSize);
     table->setMinimumHeight(tableHeight);
     table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     section->addWidget(table);
     return table;
 }
@@ -75,7 +91,7 @@ void ThemePage::addPalette()
             table->setItem(row, i + 1, paletteCell(palettes.value(themes[i]).value(keys[row])));
     }
     table->setColumnWidth(0, 240);
-    table->setColumnWidth(1, 240);
+    table->setColumnWidth(1, 360);
 }
 
 void ThemePage::addContrast()
@@ -101,13 +117,13 @@ void ThemePage::addContrast()
             const double ratio = StyleFile::contrast(foreground, background);
             auto *item = new QTableWidgetItem(QString::number(ratio, 'f', 2) +
                                               (ratio < pair.required ? tr(" too low") : QString()));
-            item->setForeground(foreground);
-            item->setBackground(background);
+            item->setIcon(swatch(background, foreground));
             table->setItem(row, column++, item);
         }
     }
     table->setColumnWidth(0, 200);
     table->setColumnWidth(1, 200);
+    table->setColumnWidth(3, 200);
 }
 
 void ThemePage::addIcons()
@@ -124,7 +140,8 @@ void ThemePage::addIcons()
     for (const auto &folder : folders) {
         QVBoxLayout *section = addSection(
             folder.title,
-            tr("%1: Normal, hover, disabled and selected, off above on, at 16, 24 and 48 pixels.")
+            tr("%1 at 16, 24 and 48 pixels. Each block shows the modes normal, hover, disabled and "
+               "selected side by side, the state off above the state on.")
                 .arg(folder.folder));
         section->addWidget(new IconSheet(folder.folder, folder.patterns, this));
     }

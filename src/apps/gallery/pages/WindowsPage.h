@@ -2,9 +2,12 @@
 
 #include "GalleryPage.h"
 
+#include <QDialog>
+#include <QPointer>
+
 class PreventSleep;
+class QGridLayout;
 class QPushButton;
-class QSpinBox;
 
 /// The services that windows and widgets share: placement, modal dialogs, tool tips, spin boxes,
 /// hover, sizes in common, key filters, cursors, keep-awake.
@@ -21,15 +24,18 @@ private:
     void addCorrections();
     void addSizes();
     void addKeys();
-    void addSleep();
-    QPushButton *addButton(class QBoxLayout *row, const QString &text,
-                           void (WindowsPage::*action)());
-    QWidget *createWindow(const QString &title);
+    void addServices();
+    /// A titled section of controls with what they show beside them.
+    QGridLayout *addTrials(const QString &title);
+    void addTrial(QGridLayout *grid, const QList<QWidget *> &controls, const QString &text);
+    QPushButton *createButton(const QString &text, void (WindowsPage::*action)());
+    QDialog *createWindow(const QString &title, const QString &explanation);
 
     void openCentred();
-    void openHalfOutside();
+    void openLost();
     void openAlwaysOnTop();
     void openModal();
 
     PreventSleep *sleep_;
+    QPointer<QDialog> onTop_;
 };

@@ -19,6 +19,7 @@
 #include <QDebug>
 #include <QDialog>
 #include <QFile>
+#include <QPlainTextEdit>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -93,6 +94,20 @@ void updateLinkColors()
     ZelLinkColors::recolorApplication(before, QApplication::palette().color(QPalette::Link));
 }
 
+// Text editors paint their placeholder with a palette that they copy when they are told of a new
+// one, and of the events that tell so each visible widget gets one only in the style-change mode.
+void updateTextEditorPalettes()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->isVisible() &&
+            (qobject_cast<QPlainTextEdit *>(widget) || qobject_cast<QTextEdit *>(widget))) {
+            QEvent change(QEvent::PaletteChange);
+            QCoreApplication::sendEvent(widget, &change);
+        }
+    }
+}
+
 int fontSizeOfSheet()
 {
     const int chosen = ZelFontMetrics::getZelmoraFontSizeSetting();
@@ -140,6 +155,7 @@ void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fon
     ZelStyleSwitch::apply(sheet, fontChanged ? ZelStyleSwitch::HiddenWidgets::Now
                                              : ZelStyleSwitch::HiddenWidgets::Later);
     filter->setStyleChangeMode(false, false);
+    updateTextEditorPalettes();
     updateLinkColors();
 }
 
