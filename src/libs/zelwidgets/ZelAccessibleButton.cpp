@@ -36,6 +36,7 @@ QMenu *menuOf(const QAbstractButton *button)
 std::optional<QAccessible::Role> roleOf(const QString &className, const QAbstractButton *button)
 {
     if (className == QLatin1String("ZelSwitchControl") ||
+        className == QLatin1String("ZelCheckBox") ||
         className == QLatin1String("ZelTextlessCheckBox"))
         return QAccessible::CheckBox;
     if (className == QLatin1String("ZelTextlessRadioButton"))

@@ -1,8 +1,10 @@
 #include "ZelToolButton.h"
 
 #include "ZelAccessibleButton.h"
+#include "ZelFocusFrame.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
 #include <QResizeEvent>
@@ -19,6 +21,7 @@ constexpr char menuArrowProperty[] = "hasMenuArrow";
 // Room around the text that is kept at the lower edge.
 constexpr int bottomTextSpace = 10;
 constexpr int toolBarGrowth = 2;
+constexpr int mostPercent = 1000;
 
 QIcon::Mode iconMode(const QStyleOptionToolButton &option)
 {
@@ -196,7 +199,7 @@ void ZelToolButton::setIconCanScale(bool canScale)
 
 void ZelToolButton::setIconScalePercentage(int percentage)
 {
-    percentage = std::max(percentage, 0);
+    percentage = std::clamp(percentage, 0, mostPercent);
     if (d_->iconScalePercentage == percentage)
         return;
     d_->iconScalePercentage = percentage;
@@ -247,7 +250,9 @@ void ZelToolButton::repolish()
         return;
     style()->unpolish(this);
     style()->polish(this);
-    updateGeometry();
+    // Qt keeps the size hint until this event.
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(this, &change);
 }
 
 void ZelToolButton::slotActionChanged()
@@ -283,9 +288,9 @@ QSize ZelToolButton::initStyleOptionInternal(QStyleOptionToolButton *option) con
     return fullSize;
 }
 
-bool ZelToolButton::isSqueezed() const
+bool ZelToolButton::isSqueezed(const QStyleOptionToolButton &option) const
 {
-    return d_->iconScalePercentage != 100 && toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+    return d_->iconScalePercentage != 100 && option.toolButtonStyle == Qt::ToolButtonTextUnderIcon;
 }
 
 bool ZelToolButton::event(QEvent *event)
@@ -307,16 +312,18 @@ void ZelToolButton::paintEvent(QPaintEvent *)
         option.text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, cell.width());
     if (d_->iconOnly) {
         paintIconOnly(option);
-        paintFocusFrame(option);
+        if (option.state.testFlag(QStyle::State_HasFocus))
+            ZelFocusFrame::paint(this);
         return;
     }
-    const bool atBottom = d_->forceTextAtBottom && toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
+    const bool atBottom =
+        d_->forceTextAtBottom && option.toolButtonStyle == Qt::ToolButtonTextUnderIcon;
     const bool isPlain =
-        (d_->iconCanScale || hasSvgIcon()) && !isSqueezed() && !d_->forceTextAtBottom;
+        (d_->iconCanScale || hasSvgIcon()) && !isSqueezed(option) && !d_->forceTextAtBottom;
     if (!isPlain && !option.icon.isNull()) {
         if (atBottom)
             cell.setHeight(std::max(1, height() - option.fontMetrics.height() - bottomTextSpace));
-        option.icon = drawnIcon(option, atBottom || isSqueezed() ? cell : QSize());
+        option.icon = drawnIcon(option, atBottom || isSqueezed(option) ? cell : QSize());
         const QList<QSize> sizes = option.icon.availableSizes(iconMode(option), iconState(option));
         if (!sizes.isEmpty())
             option.iconSize = sizes.first() / devicePixelRatioF();
@@ -353,16 +360,6 @@ void ZelToolButton::paintIconOnly(const QStyleOptionToolButton &option)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, rect()), pixmap);
-}
-
-void ZelToolButton::paintFocusFrame(const QStyleOptionToolButton &option)
-{
-    if (!option.state.testFlag(QStyle::State_HasFocus))
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(option.palette.color(QPalette::Active, QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
 }
 
 QPixmap ZelToolButton::lookupPixmap(const QStyleOptionToolButton &option, QSize size) const
@@ -406,9 +403,9 @@ QSize ZelToolButton::correctedSizeHint(const QStyleOptionToolButton &option, QSi
 {
     QSize hint = QToolButton::sizeHint();
     const QSize change = option.iconSize - fullSize;
-    const bool isUnder = toolButtonStyle() == Qt::ToolButtonTextUnderIcon;
-    const bool isBeside = toolButtonStyle() == Qt::ToolButtonTextBesideIcon;
-    const bool squeezed = isSqueezed();
+    const bool isUnder = option.toolButtonStyle == Qt::ToolButtonTextUnderIcon;
+    const bool isBeside = option.toolButtonStyle == Qt::ToolButtonTextBesideIcon;
+    const bool squeezed = isSqueezed(option);
     if (isUnder || squeezed)
         hint.rheight() -= change.height();
     if (isBeside || squeezed)
@@ -417,7 +414,8 @@ QSize ZelToolButton::correctedSizeHint(const QStyleOptionToolButton &option, QSi
         const int text = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).height() + 2;
         hint.setHeight(std::max(text, hint.height() - change.height()));
     }
-    if (toolButtonStyle() == Qt::ToolButtonIconOnly && qobject_cast<QToolBar *>(parentWidget()))
+    if (option.toolButtonStyle == Qt::ToolButtonIconOnly &&
+        qobject_cast<QToolBar *>(parentWidget()))
         hint += QSize(toolBarGrowth, toolBarGrowth);
     if (menu() && !squeezed)
         hint.rwidth() += option.fontMetrics.horizontalAdvance(QStringLiteral("Wx"));

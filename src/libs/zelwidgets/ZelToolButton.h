@@ -65,8 +65,9 @@ public:
     void setExpandIfIconOnly(bool expand);
     /// Treats the icon as one that can be drawn at any size.
     void setIconCanScale(bool canScale);
-    /// Size of the drawn icon in percent of iconSize(), from 0 up; below 0 counts as 0. With the
-    /// text under the icon the icon stands in the middle of a cell of the full size.
+    /// Size of the drawn icon in percent of iconSize(), from 0 to 1000; what is outside counts as
+    /// the nearest of them. With the text under the icon the icon stands in the middle of a cell of
+    /// the full size.
     void setIconScalePercentage(int percentage);
     /// Whether a button with a menu shows an arrow.
     void setPaintMenuArrow(bool paint);
@@ -94,10 +95,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    bool isSqueezed() const;
+    bool isSqueezed(const QStyleOptionToolButton &option) const;
     void repolish();
     void paintIconOnly(const QStyleOptionToolButton &option);
-    void paintFocusFrame(const QStyleOptionToolButton &option);
     QIcon drawnIcon(const QStyleOptionToolButton &option, QSize cell) const;
     QPixmap lookupPixmap(const QStyleOptionToolButton &option, QSize size) const;
     QSize findBestIconMatchSize(QSize wanted) const;

@@ -1,0 +1,24 @@
+#include "ZelTextlessCheckBox.h"
+
+#include "ZelAccessibleButton.h"
+
+#include <QStyle>
+
+ZelTextlessCheckBox::ZelTextlessCheckBox(QWidget *parent)
+    : ZelTextlessCheckBox(QString(), parent)
+{}
+
+ZelTextlessCheckBox::ZelTextlessCheckBox(const QString &text, QWidget *parent)
+    : QCheckBox(text, parent)
+{
+    ZelAccessibleButton::installFactory();
+}
+
+QSize ZelTextlessCheckBox::sizeHint() const
+{
+    QSize hint = QCheckBox::sizeHint();
+    if (text().isEmpty())
+        hint.setWidth(style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) +
+                      style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this));
+    return hint;
+}
