@@ -1,5 +1,6 @@
 #include "PageCatalog.h"
 
+#include "pages/ButtonsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/IconsPage.h"
 #include "pages/PlainWidgetsPage.h"
@@ -36,6 +37,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("fonts"), text("Fonts and carriers"),
          text("Font units, colours carried by the sheet, ranked buttons"), QStringLiteral("fonts"),
          &make<FontsPage>},
+        {QStringLiteral("buttons"), text("Buttons"),
+         text("Tool buttons, menu buttons, switches and check boxes in each state"),
+         QStringLiteral("check"), &make<ButtonsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
