@@ -271,10 +271,17 @@ void GalleryTest::theFontSizeReachesEveryWidget()
 {
     const int index = pageIndex(QStringLiteral("plain"));
     window_->showPage(index);
+    const auto *combo = window_->page(index)->findChild<QComboBox *>();
+    QVERIFY(combo);
+    QTRY_COMPARE(combo->height(), combo->sizeHint().height());
+    const int height = combo->height();
     application_->setFontSize(14);
     for (const QLabel *label : window_->page(index)->findChildren<QLabel *>())
         QCOMPARE(label->font().pointSize(), 14);
+    QTRY_VERIFY(combo->height() > height);
+    // The second change, and a smaller font: what had to grow shrinks again.
     application_->setFontSize(-1);
+    QTRY_COMPARE(combo->height(), height);
 }
 
 void GalleryTest::aPlaceholderFollowsEverySwitch()
