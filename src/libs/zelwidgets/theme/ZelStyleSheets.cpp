@@ -16,6 +16,7 @@
 #include <ZelCore/ZelSettings>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDebug>
 #include <QDialog>
 #include <QFile>
@@ -108,6 +109,19 @@ void updateTextEditorPalettes()
     }
 }
 
+// A combo box forgets its least size only when it is told of a new style, which the filter swallows
+// in the style-change mode: it would never get smaller again.
+void updateComboBoxSizes()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (!qobject_cast<QComboBox *>(widget))
+            continue;
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
+}
+
 int fontSizeOfSheet()
 {
     const int chosen = ZelFontMetrics::getZelmoraFontSizeSetting();
@@ -155,6 +169,8 @@ void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fon
     ZelStyleSwitch::apply(sheet, fontChanged ? ZelStyleSwitch::HiddenWidgets::Now
                                              : ZelStyleSwitch::HiddenWidgets::Later);
     filter->setStyleChangeMode(false, false);
+    if (fontChanged)
+        updateComboBoxSizes();
     updateTextEditorPalettes();
     updateLinkColors();
 }
