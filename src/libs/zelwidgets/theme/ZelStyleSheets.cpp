@@ -11,6 +11,7 @@
 #include "ZelStylePalette.h"
 #include "ZelStyleSwitch.h"
 #include "ZelVerifyStyleSheetWidget.h"
+#include "ZelWidgetPolish.h"
 
 #include <ZelCore/ZelGlobalIconCache>
 #include <ZelCore/ZelSettings>
@@ -224,10 +225,11 @@ bool ZelStyleSheets::verifyStylesheetApplied(const QString &sheet, const QString
     QStringList lines = sheet.split(QLatin1Char('\n'));
     const auto place =
         StyleSheetErrorLocator::locate(lines, [&probe](const QString &beginning, int line) {
-            qApp->setStyleSheet(beginning);
-            probe.ensurePolished();
+            ZelStyleSwitch::install(beginning);
+            ZelWidgetPolish::polish(&probe);
             return probe.errorLine() == line;
         });
+    ZelStyleSwitch::polishWidgets(ZelStyleSwitch::HiddenWidgets::Now);
     showStylesheetError(place.errorLine, place.lastGoodLine, getRemovedLineCount(int(lines.size())),
                         lines);
     return false;
