@@ -74,7 +74,7 @@ struct Pages
         for (int i = 0; i < 20; ++i) {
             auto *label = new QLabel(QString::number(i), window.get());
             label->setStyleSheet(QStringLiteral("padding: 1px;"));
-            window->statusBar()->addWidget(label);
+            window->statusBar()->addPermanentWidget(label);
         }
         window->show();
     }

@@ -187,7 +187,8 @@ bool ZelStyleSheets::updateColorTheme(bool fontChanged)
 
 QString ZelStyleSheets::colorThemeFromSettings()
 {
-    return uiSettings().value(themeKey(), QStringLiteral("Dark")).toString();
+    const QVariant theme = uiSettings().value(themeKey());
+    return theme.typeId() == QMetaType::QString ? theme.toString() : QStringLiteral("Dark");
 }
 
 void ZelStyleSheets::updateColorThemeSettings(const QString &key)
