@@ -37,6 +37,7 @@ ZelStylePalette::Table &paletteTable()
 }
 
 bool isFirstApplication = true;
+int applicationCount = 0;
 
 QString themeKey()
 {
@@ -161,9 +162,13 @@ void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fon
     if (!filter)
         return;
     std::optional<StyleSheetChangeProgress> progress;
+    const int count = ++applicationCount;
     if (!isFirstApplication) {
         // Runs events; so it has to be there before the filter begins to swallow any.
         progress.emplace(sheet);
+        // One of them was a later switch, whose icon colours are loaded as well.
+        if (count != applicationCount)
+            return;
         filter->setStyleChangeMode(true, !fontChanged);
     }
     isFirstApplication = false;
@@ -183,7 +188,8 @@ bool ZelStyleSheets::updateColorTheme(bool fontChanged)
 
 QString ZelStyleSheets::colorThemeFromSettings()
 {
-    return uiSettings().value(themeKey(), QStringLiteral("Dark")).toString();
+    const QVariant theme = uiSettings().value(themeKey());
+    return theme.typeId() == QMetaType::QString ? theme.toString() : QStringLiteral("Dark");
 }
 
 void ZelStyleSheets::updateColorThemeSettings(const QString &key)
