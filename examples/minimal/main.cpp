@@ -1,4 +1,4 @@
-// The least that an application does: start order, one window, and a button that switches the theme.
+// The least that an application does: start order, a window, a button that switches the theme.
 
 #include <ZelWidgets/HandleSvgInStyle>
 #include <ZelWidgets/ZelPushButton>

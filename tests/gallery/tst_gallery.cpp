@@ -227,6 +227,8 @@ void GalleryTest::thePageListIsFilteredAndOperatedByKeys()
     for (int row = 0; row < list->count(); ++row)
         visible += !list->item(row)->isHidden();
     QCOMPARE(visible, 1);
+    QTest::keyClick(filter, Qt::Key_Return);
+    QCOMPARE(window_->currentPage(), pageIndex(QStringLiteral("stylesheet")));
     filter->clear();
 
     window_->showPage(0);
@@ -271,10 +273,17 @@ void GalleryTest::theFontSizeReachesEveryWidget()
 {
     const int index = pageIndex(QStringLiteral("plain"));
     window_->showPage(index);
+    const auto *combo = window_->page(index)->findChild<QComboBox *>();
+    QVERIFY(combo);
+    QTRY_COMPARE(combo->height(), combo->sizeHint().height());
+    const int height = combo->height();
     application_->setFontSize(14);
     for (const QLabel *label : window_->page(index)->findChildren<QLabel *>())
         QCOMPARE(label->font().pointSize(), 14);
+    QTRY_VERIFY(combo->height() > height);
+    // The second change, and a smaller font: what had to grow shrinks again.
     application_->setFontSize(-1);
+    QTRY_COMPARE(combo->height(), height);
 }
 
 void GalleryTest::aPlaceholderFollowsEverySwitch()
@@ -329,6 +338,15 @@ void GalleryTest::theCommandLineRefusesWhatItDoesNotKnow()
         QVERIFY2(reason.contains("gallery: "), reason.constData());
     }
     QProcess gallery;
+    QProcessEnvironment noDisplay = QProcessEnvironment::systemEnvironment();
+    for (const QString &variable : {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY"),
+                                    QStringLiteral("QT_QPA_PLATFORM")})
+        noDisplay.remove(variable);
+    gallery.setProcessEnvironment(noDisplay);
+    gallery.start(QStringLiteral(ZEL_GALLERY), {QStringLiteral("--page"), QStringLiteral("plain")});
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(gallery.exitCode(), 1);
     gallery.start(QStringLiteral(ZEL_GALLERY), {QStringLiteral("--list-pages")});
     QVERIFY(gallery.waitForFinished());
     QCOMPARE(gallery.readAllStandardOutput().count('\n'), pageCatalog().size());

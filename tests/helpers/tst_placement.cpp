@@ -109,6 +109,9 @@ void PlacementTest::centresOnTheGivenScreenAndCapsTheSize()
     QCOMPARE(window.width(), availableOn(1).width());
     QCOMPARE(window.height(), 200);
     QCOMPARE(window.pos(), middlePlace(window, availableOn(1)));
+    window.setMinimumSize(3000, 3000);
+    centerWidgetOnScreen(&window, QGuiApplication::screens().at(1));
+    QCOMPARE(window.pos(), availableOn(1).topLeft());
 }
 
 void PlacementTest::findsTheScreenOfAWidget()

@@ -179,6 +179,10 @@ void EventFilterTest::sizesToolTips()
     QCOMPARE(toolTip.width(), toolTip.fontMetrics().horizontalAdvance(text) + 20);
     QCOMPARE(toolTip.height(), toolTip.fontMetrics().capHeight() + 12);
     QCOMPARE(toolTip.alignment(), Qt::AlignHCenter | Qt::AlignVCenter);
+    // The next widget's tip takes the same label while it is shown.
+    toolTip.setText(text + text);
+    toolTip.move(toolTip.pos() + QPoint(20, 0));
+    QCOMPARE(toolTip.width(), toolTip.fontMetrics().horizontalAdvance(text + text) + 20);
 
     QLabel plain(text);
     const Qt::Alignment alignment = plain.alignment();

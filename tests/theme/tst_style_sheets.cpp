@@ -361,6 +361,8 @@ void StyleSheetsTest::checksAllThemes()
 void StyleSheetsTest::remembersTheChoice()
 {
     QCOMPARE(ZelStyleSheets::colorThemeFromSettings(), dark);
+    ZelSettings(QStringLiteral("ui")).setValue(QStringLiteral("colortheme"), QSize(1, 2));
+    QCOMPARE(ZelStyleSheets::colorThemeFromSettings(), dark);
     const auto themes = ZelStyleSheets::colorThemeList();
     QCOMPARE(themes.size(), 2);
     QCOMPARE(themes.at(0).second, dark);

@@ -11,6 +11,8 @@
 #include "theme/ZelTextPainterStyle.h"
 #include "theme/ZelmoraStyle.h"
 
+#include <ZelCore/ZelGlobalIconCache>
+
 #include <QtWidgets>
 
 namespace {
@@ -68,6 +70,12 @@ struct Pages
         styled = new QPushButton(QStringLiteral("Own style"), stack);
         styled->setStyle(new ZelStyleForwarder(styled));
         stack->addWidget(styled);
+        // Only widgets with a sheet of their own get their events at every switch.
+        for (int i = 0; i < 20; ++i) {
+            auto *label = new QLabel(QString::number(i), window.get());
+            label->setStyleSheet(QStringLiteral("padding: 1px;"));
+            window->statusBar()->addPermanentWidget(label);
+        }
         window->show();
     }
 
@@ -132,7 +140,9 @@ private Q_SLOTS:
     void hiddenPagesFollowWhenIdle();
     void hiddenCarriersFollowAtOnce();
     void aChangedFontReachesHiddenPagesAtOnce();
+    void reachesWidgetsThatNoRuleReaches();
     void survivesWidgetsThatGo();
+    void theLaterOfTwoSwitchesHolds();
     void emptySheetTakesTheLookAway();
 };
 
@@ -302,6 +312,53 @@ void ThemeSwitchTest::aChangedFontReachesHiddenPagesAtOnce()
     QCOMPARE(ZelFontMetrics::actualZelmoraFontSize(), 17);
 }
 
+void ThemeSwitchTest::reachesWidgetsThatNoRuleReaches()
+{
+    const auto apply = [](const QString &sheet) {
+        ZelStyleSwitch::apply(sheet, ZelStyleSwitch::HiddenWidgets::Now);
+    };
+    apply(QString());
+    QPushButton button;
+    button.setStyle(new ZelStyleForwarder(&button));
+    button.ensurePolished();
+    apply(QStringLiteral("QLabel { color: red; }"));
+    apply(QStringLiteral("QLabel { color: blue; }"));
+    QVERIFY(button.testAttribute(Qt::WA_Hover));
+}
+
+void ThemeSwitchTest::theLaterOfTwoSwitchesHolds()
+{
+    const auto isAllDark = [](const Pages &pages) {
+        auto *page = pages.window->findChild<QStackedWidget *>()->currentWidget();
+        return page->findChild<QLineEdit *>()->palette().color(QPalette::Base) ==
+                   QColor(0x303012) &&
+               ZelGlobalIconCache::darkTheme();
+    };
+    switchTo(dark);
+    const Pages pages;
+    bool isPosted = true;
+    QMetaObject::invokeMethod(
+        this,
+        [&] {
+            switchTo(dark);
+            isPosted = false;
+        },
+        Qt::QueuedConnection);
+    switchTo(light);
+    QVERIFY(!isPosted);
+    QVERIFY(isAllDark(pages));
+
+    int signalCount = 0;
+    QObject context;
+    connect(GlobalEventFilter::instance(), &GlobalEventFilter::themeChangedProgress, &context, [&] {
+        if (++signalCount == 1)
+            switchTo(dark);
+    });
+    switchTo(light);
+    QVERIFY(signalCount > 0);
+    QVERIFY(isAllDark(pages));
+}
+
 void ThemeSwitchTest::survivesWidgetsThatGo()
 {
     switchTo(dark);
@@ -315,8 +372,15 @@ void ThemeSwitchTest::survivesWidgetsThatGo()
     kept->setParent(stack->widget(0));
     kept->show();
     QTRY_COMPARE(kept->findChild<QLineEdit *>()->palette().color(QPalette::Base), QColor(0xf0f012));
+    QObject context;
+    connect(GlobalEventFilter::instance(), &GlobalEventFilter::themeChangedProgress, &context,
+            [stack] { delete stack->widget(1); });
     switchTo(dark);
-    pages.reset();
+    QCOMPARE(stack->count(), 1);
+    QMetaObject::invokeMethod(
+        this, [&] { pages.reset(); }, Qt::QueuedConnection);
+    switchTo(light);
+    QVERIFY(!pages);
     ZelStyleSwitch::finish();
 }
 

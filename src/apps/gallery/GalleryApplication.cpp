@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -34,6 +35,15 @@ GalleryApplication::GalleryApplication(const QString &theme, QObject *parent)
     QApplication::setStyle(new ZelmoraStyle(QStringLiteral("Fusion")));
     if (!ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), false))
         qCritical() << "The gallery has no style file";
+    updateToolTipFont();
+}
+
+void GalleryApplication::updateToolTipFont()
+{
+    // Tool tips take their font from here, whatever the sheet's rule for all widgets.
+    QFont font = QToolTip::font();
+    font.setPointSize(ZelFontMetrics::actualZelmoraFontSize());
+    QToolTip::setFont(font);
 }
 
 void GalleryApplication::setTheme(const QString &key)
@@ -52,6 +62,7 @@ void GalleryApplication::setFontSize(int points)
         return;
     ZelFontMetrics::setZelmoraFontSizeSetting(points);
     ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), true);
+    updateToolTipFont();
     Q_EMIT fontSizeChanged(points);
 }
 

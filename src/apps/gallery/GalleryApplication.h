@@ -26,5 +26,7 @@ Q_SIGNALS:
     void fontSizeChanged(int points);
 
 private:
+    static void updateToolTipFont();
+
     QString theme_;
 };

@@ -39,6 +39,13 @@ ZelSettings windowSettings()
     return ZelSettings(QStringLiteral("gallery"));
 }
 
+/// True by default, also when the settings hold something else under the key.
+bool flag(const ZelSettings &settings, const QString &key)
+{
+    const QVariant value = settings.value(key, true);
+    return value.typeId() != QMetaType::Bool || value.toBool();
+}
+
 } // namespace
 
 GalleryWindow::GalleryWindow(GalleryApplication *application)
@@ -82,7 +89,10 @@ GalleryWindow::GalleryWindow(GalleryApplication *application)
     connect(application_, &GalleryApplication::fontSizeChanged, this, &GalleryWindow::tellPages);
     restoreLayout();
     showPage(0);
-    list_->setFocus();
+    if (showList_->isChecked())
+        list_->setFocus();
+    else
+        stack_->currentWidget()->setFocus();
     fitListToTitles();
 }
 
@@ -108,7 +118,7 @@ QWidget *GalleryWindow::createPageList()
     layout->addWidget(list_, 1);
 
     connect(filter_, &QLineEdit::textChanged, this, &GalleryWindow::filterPages);
-    connect(filter_, &QLineEdit::returnPressed, list_, qOverload<>(&QWidget::setFocus));
+    connect(filter_, &QLineEdit::returnPressed, this, &GalleryWindow::openFirstMatch);
     connect(list_, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
     return panel;
 }
@@ -235,6 +245,17 @@ void GalleryWindow::filterPages(const QString &text)
     }
 }
 
+void GalleryWindow::openFirstMatch()
+{
+    list_->setFocus(Qt::OtherFocusReason);
+    if (!list_->item(currentPage())->isHidden())
+        return;
+    for (int row = 0; row < list_->count(); ++row) {
+        if (!list_->item(row)->isHidden())
+            return showPage(row);
+    }
+}
+
 void GalleryWindow::stepPage(int step)
 {
     const int count = static_cast<int>(pages_.size());
@@ -306,8 +327,8 @@ void GalleryWindow::restoreLayout()
     restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
     for (QSplitter *splitter : findChildren<QSplitter *>())
         splitter->restoreState(settings.value(splitter->objectName()).toByteArray());
-    showList_->setChecked(settings.value(QStringLiteral("showList"), true).toBool());
-    showLog_->setChecked(settings.value(QStringLiteral("showLog"), true).toBool());
+    showList_->setChecked(flag(settings, QStringLiteral("showList")));
+    showLog_->setChecked(flag(settings, QStringLiteral("showLog")));
 }
 
 void GalleryWindow::saveLayout() const

@@ -37,6 +37,7 @@ private:
     void createThemeMenu();
     void createToolBar();
     void filterPages(const QString &text);
+    void openFirstMatch();
     void chooseTheme(const QString &key);
     void chooseFontSize(int row);
     void updateFontSizeBox();

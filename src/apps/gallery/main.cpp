@@ -11,8 +11,45 @@
 
 #include <cstdio>
 
+namespace {
+
+/// Without a display only what shows no window goes on, on the offscreen platform. Qt itself would
+/// abort.
+bool preparePlatform(int argc, char **argv)
+{
+#ifdef Q_OS_LINUX
+    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(variable))
+            return true;
+    }
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray argument(argv[i]);
+        if (argument == "-platform")
+            return true;
+        for (const char *windowless :
+             {"--screenshots", "--list-pages", "--help", "-h", "--version", "-v"}) {
+            if (argument.startsWith(windowless)) {
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+                return true;
+            }
+        }
+    }
+    std::fprintf(stderr, "gallery: there is no display (DISPLAY and WAYLAND_DISPLAY are not set); "
+                         "--screenshots FOLDER works without one\n");
+    return false;
+#else
+    Q_UNUSED(argc)
+    Q_UNUSED(argv)
+    return true;
+#endif
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    if (!preparePlatform(argc, argv))
+        return 1;
     if (const auto scale = GalleryOptions::scaleFromArguments(argc, argv))
         qputenv("QT_SCALE_FACTOR", QByteArray::number(*scale));
     QApplication qtApplication(argc, argv);

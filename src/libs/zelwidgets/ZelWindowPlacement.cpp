@@ -96,7 +96,9 @@ void centerWidgetOnScreen(QWidget *widget, QScreen *screen)
         ZelPlacementGeometry::sizeToCentre(sizesOf(widget)).boundedTo(available.size());
     if (size != widget->size())
         widget->resize(size);
-    widget->move(ZelPlacementGeometry::topLeftInMiddle(widget->size(), available));
+    // A window that can't be made small enough keeps its title bar in sight.
+    const QSize placed = size.boundedTo(widget->size());
+    widget->move(ZelPlacementGeometry::topLeftInMiddle(placed, available));
 }
 
 void ensureNiceWidgetPosition(QWidget *widget)

@@ -118,9 +118,11 @@ void FontsPage::addButtons()
         for (const QString &rank :
              {QStringLiteral("Primary"), QStringLiteral("Secondary"), QStringLiteral("Tertiary")}) {
             for (const bool enabled : {true, false}) {
-                auto *button =
-                    new ZelPushButton(ZelStyleIcon(QStringLiteral(":/ui/icons/save.svg")),
-                                      enabled ? rank : tr("Disabled"), this);
+                // The icon's colours are made for the grounds of the theme, not for the accent.
+                const QIcon icon = rank == QStringLiteral("Primary")
+                                       ? QIcon()
+                                       : ZelStyleIcon(QStringLiteral(":/ui/icons/save.svg"));
+                auto *button = new ZelPushButton(icon, enabled ? rank : tr("Disabled"), this);
                 button->setProperty("rank", rank);
                 button->setProperty("dimension", dimension);
                 button->setEnabled(enabled);

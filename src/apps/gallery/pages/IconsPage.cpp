@@ -63,6 +63,11 @@ IconsPage::IconsPage(QWidget *parent)
     addStretch();
 }
 
+void IconsPage::lookChanged()
+{
+    view_->refresh();
+}
+
 QGridLayout *IconsPage::addIconTable(QVBoxLayout *section)
 {
     auto *table = new QGridLayout;
@@ -159,13 +164,13 @@ void IconsPage::addLiveDocument()
     editor->setAccessibleName(tr("SVG document"));
     editor->setTabChangesFocus(true);
     editor->setMinimumHeight(fontMetrics().height() * 12);
-    auto *view = new LiveIconView(this);
-    connect(editor, &QPlainTextEdit::textChanged, view,
-            [editor, view] { view->setDocument(editor->toPlainText()); });
+    view_ = new LiveIconView(this);
+    connect(editor, &QPlainTextEdit::textChanged, view_,
+            [this, editor] { view_->setDocument(editor->toPlainText()); });
     editor->setPlainText(readText(QStringLiteral(":/ui/icons/eyedropper.svg")));
 
     auto *row = new QHBoxLayout;
     row->addWidget(editor, 1);
-    row->addWidget(view);
+    row->addWidget(view_);
     section->addLayout(row);
 }

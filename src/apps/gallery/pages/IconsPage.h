@@ -2,6 +2,7 @@
 
 #include "GalleryPage.h"
 
+class LiveIconView;
 class QGridLayout;
 class QIcon;
 class QLabel;
@@ -15,6 +16,8 @@ class IconsPage : public GalleryPage
 public:
     explicit IconsPage(QWidget *parent = nullptr);
 
+    void lookChanged() override;
+
 private:
     void addFamilies();
     void addPinned();
@@ -22,4 +25,6 @@ private:
     void addLiveDocument();
     QGridLayout *addIconTable(QVBoxLayout *section);
     void addIconRow(QGridLayout *table, const QString &title, const QIcon &icon);
+
+    LiveIconView *view_ = nullptr;
 };

@@ -20,6 +20,8 @@ constexpr Column columns[] = {{QIcon::Normal, QT_TRANSLATE_NOOP("LiveIconView", 
                               {QIcon::Disabled, QT_TRANSLATE_NOOP("LiveIconView", "Disabled")},
                               {QIcon::Selected, QT_TRANSLATE_NOOP("LiveIconView", "Selected")}};
 
+constexpr QIcon::State states[] = {QIcon::Off, QIcon::On};
+
 } // namespace
 
 LiveIconView::LiveIconView(QWidget *parent)
@@ -32,6 +34,20 @@ LiveIconView::LiveIconView(QWidget *parent)
 void LiveIconView::setDocument(const QString &svg)
 {
     svg_ = svg;
+    refresh();
+}
+
+void LiveIconView::refresh()
+{
+    documents_.clear();
+    for (const Column &column : columns) {
+        for (const QIcon::State state : states) {
+            documents_.append(
+                IconColorTheme::instance()
+                    ->mapSvgToTheme(svg_, column.mode, state, QStringLiteral("typed document"))
+                    .toUtf8());
+        }
+    }
     update();
 }
 
@@ -45,15 +61,15 @@ void LiveIconView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     int x = gap;
+    qsizetype document = 0;
     for (const Column &column : columns) {
         painter.drawText(QRect(x - gap, 0, side + 2 * gap, fontMetrics().height()), Qt::AlignCenter,
                          tr(column.name));
         int y = fontMetrics().height() + gap;
-        for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
-            const QString text = IconColorTheme::instance()->mapSvgToTheme(
-                svg_, column.mode, state, QStringLiteral("typed document"));
+        for (int row = 0; row < int(std::size(states)); ++row) {
+            const QByteArray text = documents_.value(document++);
             QSvgRenderer renderer;
-            if (!text.isEmpty() && renderer.load(text.toUtf8()))
+            if (!text.isEmpty() && renderer.load(text))
                 renderer.render(&painter, QRectF(x, y, side, side));
             y += side + gap;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayList>
 #include <QString>
 #include <QWidget>
 
@@ -12,6 +13,8 @@ public:
     explicit LiveIconView(QWidget *parent = nullptr);
 
     void setDocument(const QString &svg);
+    /// Maps the document to the icon theme anew; its messages come once for each picture.
+    void refresh();
     QSize sizeHint() const override;
 
 protected:
@@ -19,4 +22,5 @@ protected:
 
 private:
     QString svg_;
+    QByteArrayList documents_;
 };

@@ -326,14 +326,11 @@ QWidget *PlainWidgetsPage::sliders()
 {
     auto *horizontal = named(new QSlider(Qt::Horizontal), tr("Slider"));
     horizontal->setValue(40);
-    auto *inverted = named(new QSlider(Qt::Horizontal), tr("Inverted slider"));
-    inverted->setInvertedAppearance(true);
-    inverted->setValue(25);
     auto *vertical = named(new QSlider(Qt::Vertical), tr("Upright slider"));
     vertical->setFixedHeight(70);
     vertical->setValue(60);
     watch(horizontal, &QSlider::valueChanged, QStringLiteral("valueChanged"));
-    return inColumn({horizontal, inverted, vertical});
+    return inColumn({horizontal, vertical});
 }
 
 QWidget *PlainWidgetsPage::dials()

@@ -20,18 +20,26 @@ StyleSheetPage::StyleSheetPage(QWidget *parent)
                                   tr("What the application's style sheet is now, with the theme's "
                                      "palette put in and the font rule in front."));
     auto *search = new QLineEdit(this);
-    search->setPlaceholderText(tr("Find in the sheet"));
+    search->setPlaceholderText(tr("Find in the sheet; Enter finds the next place"));
     search->setAccessibleName(tr("Find in the sheet"));
     search->setClearButtonEnabled(true);
     connect(search, &QLineEdit::textChanged, this, &StyleSheetPage::find);
+    connect(search, &QLineEdit::returnPressed, this, [this, search] {
+        // Beyond the last place the search starts again.
+        if (!finished_->find(search->text()))
+            find(search->text());
+    });
     top->addWidget(search);
     finished_ = createEditor(tr("Finished sheet"));
     finished_->setReadOnly(true);
     top->addWidget(finished_);
 
     QVBoxLayout *bottom = addSection(
-        tr("Editable copy"), tr("Change it and apply it, or break a rule and check it. Rules are "
-                                "separated by blank lines: they are where the check can look."));
+        tr("Editable copy"),
+        tr("Change it and apply it, or leave out a brace and check it: a dialog shows the "
+           "broken rule. The check tries one rule after the other, as blank lines "
+           "separate them, which takes some seconds; its line numbers are those of the "
+           "style file."));
     edited_ = createEditor(tr("Editable copy"));
     bottom->addWidget(edited_);
     auto *row = new QHBoxLayout;
@@ -86,11 +94,13 @@ void StyleSheetPage::apply()
     ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(StyleFile::themeInForce(), text, false);
     finished_->setPlainText(qApp->styleSheet());
     verdict_->setText(tr("Applied."));
-    log(tr("style sheet applied, %n character(s)", nullptr, int(text.size())));
+    log(tr("style sheet applied: %1 characters").arg(text.size()));
 }
 
 void StyleSheetPage::check()
 {
+    verdict_->setText(tr("Checking…"));
+    verdict_->repaint();
     const QString running = qApp->styleSheet();
     const QString name = QStringLiteral("gallery-check");
     QString sheet = edited_->toPlainText();

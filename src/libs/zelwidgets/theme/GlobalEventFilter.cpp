@@ -137,6 +137,10 @@ bool GlobalEventFilter::eventFilter(QObject *object, QEvent *event)
             sizeIfToolTip(object);
         }
         break;
+    case QEvent::Move:
+        // A tip that is shown already is moved when it takes another text.
+        sizeIfToolTip(object);
+        break;
     case QEvent::Hide:
         d_->repairStuckHover(object);
         break;

@@ -11,11 +11,13 @@
 #include "ZelStylePalette.h"
 #include "ZelStyleSwitch.h"
 #include "ZelVerifyStyleSheetWidget.h"
+#include "ZelWidgetPolish.h"
 
 #include <ZelCore/ZelGlobalIconCache>
 #include <ZelCore/ZelSettings>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDebug>
 #include <QDialog>
 #include <QFile>
@@ -35,6 +37,7 @@ ZelStylePalette::Table &paletteTable()
 }
 
 bool isFirstApplication = true;
+int applicationCount = 0;
 
 QString themeKey()
 {
@@ -108,6 +111,19 @@ void updateTextEditorPalettes()
     }
 }
 
+// A combo box forgets its least size only when it is told of a new style, which the filter swallows
+// in the style-change mode: it would never get smaller again.
+void updateComboBoxSizes()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        if (!qobject_cast<QComboBox *>(widget))
+            continue;
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(widget, &change);
+    }
+}
+
 int fontSizeOfSheet()
 {
     const int chosen = ZelFontMetrics::getZelmoraFontSizeSetting();
@@ -146,15 +162,21 @@ void ZelStyleSheets::applyStyleSheetToApplication(const QString &sheet, bool fon
     if (!filter)
         return;
     std::optional<StyleSheetChangeProgress> progress;
+    const int count = ++applicationCount;
     if (!isFirstApplication) {
         // Runs events; so it has to be there before the filter begins to swallow any.
         progress.emplace(sheet);
+        // One of them was a later switch, whose icon colours are loaded as well.
+        if (count != applicationCount)
+            return;
         filter->setStyleChangeMode(true, !fontChanged);
     }
     isFirstApplication = false;
     ZelStyleSwitch::apply(sheet, fontChanged ? ZelStyleSwitch::HiddenWidgets::Now
                                              : ZelStyleSwitch::HiddenWidgets::Later);
     filter->setStyleChangeMode(false, false);
+    if (fontChanged)
+        updateComboBoxSizes();
     updateTextEditorPalettes();
     updateLinkColors();
 }
@@ -166,7 +188,8 @@ bool ZelStyleSheets::updateColorTheme(bool fontChanged)
 
 QString ZelStyleSheets::colorThemeFromSettings()
 {
-    return uiSettings().value(themeKey(), QStringLiteral("Dark")).toString();
+    const QVariant theme = uiSettings().value(themeKey());
+    return theme.typeId() == QMetaType::QString ? theme.toString() : QStringLiteral("Dark");
 }
 
 void ZelStyleSheets::updateColorThemeSettings(const QString &key)
@@ -208,10 +231,11 @@ bool ZelStyleSheets::verifyStylesheetApplied(const QString &sheet, const QString
     QStringList lines = sheet.split(QLatin1Char('\n'));
     const auto place =
         StyleSheetErrorLocator::locate(lines, [&probe](const QString &beginning, int line) {
-            qApp->setStyleSheet(beginning);
-            probe.ensurePolished();
+            ZelStyleSwitch::install(beginning);
+            ZelWidgetPolish::polish(&probe);
             return probe.errorLine() == line;
         });
+    ZelStyleSwitch::polishWidgets(ZelStyleSwitch::HiddenWidgets::Now);
     showStylesheetError(place.errorLine, place.lastGoodLine, getRemovedLineCount(int(lines.size())),
                         lines);
     return false;

@@ -41,7 +41,8 @@ public:
     /// Installs the theme of the settings; for the start, and after a change of the font size.
     static bool updateColorTheme(bool fontChanged);
 
-    /// The theme that the user chose (group "ui", key "colortheme"); "Dark" at first.
+    /// The theme that the user chose (group "ui", key "colortheme"); "Dark" at first and
+    /// if no text is stored.
     static QString colorThemeFromSettings();
     /// Stores the user's choice; installs nothing.
     static void updateColorThemeSettings(const QString &key);

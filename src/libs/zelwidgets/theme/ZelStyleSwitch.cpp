@@ -58,15 +58,6 @@ private:
     HiddenWidgets hidden_;
 };
 
-// The style forgets the rules of all widgets, and so setStyleSheet() repolishes none.
-void exchangeSheet(const QString &sheet)
-{
-    QStyle *style = QApplication::style();
-    style->unpolish(qApp);
-    qApp->setStyleSheet(sheet);
-    style->polish(qApp);
-}
-
 } // namespace
 
 void apply(const QString &sheet, HiddenWidgets hidden)
@@ -76,8 +67,12 @@ void apply(const QString &sheet, HiddenWidgets hidden)
         qApp->setStyleSheet(sheet);
         return;
     }
-    exchangeSheet(sheet);
+    install(sheet);
+    polishWidgets(hidden);
+}
 
+void polishWidgets(HiddenWidgets hidden)
+{
     Collector collector(hidden);
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget *widget : widgets) {
@@ -87,6 +82,19 @@ void apply(const QString &sheet, HiddenWidgets hidden)
     ZelHiddenPolish::instance().take(std::move(collector.later));
     for (const QPointer<QWidget> &widget : collector.now)
         ZelWidgetPolish::polish(widget);
+}
+
+// The style forgets the rules of all widgets, and so setStyleSheet() repolishes none.
+void install(const QString &sheet)
+{
+    if (sheet.isEmpty() || qApp->styleSheet().isEmpty()) {
+        qApp->setStyleSheet(sheet);
+        return;
+    }
+    QStyle *style = QApplication::style();
+    style->unpolish(qApp);
+    qApp->setStyleSheet(sheet);
+    style->polish(qApp);
 }
 
 void finish()

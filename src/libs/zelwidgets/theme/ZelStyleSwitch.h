@@ -18,6 +18,11 @@ enum class HiddenWidgets {
 
 void apply(const QString &sheet, HiddenWidgets hidden);
 
+/// The two halves of apply(), for trials of several sheets: puts a sheet in without polishing any
+/// widget, and polishes the widgets by the sheet that is in.
+void install(const QString &sheet);
+void polishWidgets(HiddenWidgets hidden);
+
 /// Polishes what was left for later.
 void finish();
 

@@ -8,9 +8,9 @@ namespace ZelWidgetPolish {
 
 void polish(QWidget *widget)
 {
-    // Qt polishes the others itself when they are first shown.
-    if (!widget || !widget->testAttribute(Qt::WA_WState_Polished) ||
-        !widget->testAttribute(Qt::WA_StyleSheet))
+    // Qt polishes the others itself when they are first shown. Those that style sheets don't reach,
+    // such as a popup's frame or a viewport, take their part from the style below and the event.
+    if (!widget || !widget->testAttribute(Qt::WA_WState_Polished))
         return;
     const QPointer<QWidget> guard(widget);
     widget->style()->polish(widget);

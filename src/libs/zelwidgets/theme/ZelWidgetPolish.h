@@ -11,7 +11,7 @@ namespace ZelWidgetPolish {
 /// Polishing runs code of the widgets, which may delete others.
 using Widgets = std::vector<QPointer<QWidget>>;
 
-/// Polishes a widget that was polished before and that style sheets reach; null does nothing.
+/// Polishes a widget that was polished before; null does nothing.
 void polish(QWidget *widget);
 
 } // namespace ZelWidgetPolish
