@@ -1,5 +1,8 @@
 #include "TestCase.h"
 
+#include "GalleryApplication.h"
+#include "StyleFile.h"
+
 #include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelCheckBox>
 #include <ZelWidgets/ZelIconButton>
@@ -93,6 +96,7 @@ private Q_SLOTS:
     void sizeHintsFollowIconTextAndMenu();
     void anActionLeadsItsButton();
     void theMenuArrowReachesTheSheet();
+    void aDelayedMenuOpensByKeys();
     void theHandCursorComesAndGoes();
     void aMenuButtonTellsWhatWasChosen();
     void aMenuButtonKeepsRemovedActions();
@@ -103,6 +107,7 @@ private Q_SLOTS:
     void anIconCheckBoxNamesItsPictures();
     void buttonsWithoutATextAreSmallAndNamed();
     void focusIsSeenOnWhatPaintsItself();
+    void theFocusFrameFollowsTheTheme();
 };
 
 void ButtonsTest::initTestCase()
@@ -294,6 +299,23 @@ void ButtonsTest::theMenuArrowReachesTheSheet()
     QCOMPARE(ZelToolButton(ZelToolButton::Border).objectName(), QStringLiteral("BorderButton"));
 }
 
+void ButtonsTest::aDelayedMenuOpensByKeys()
+{
+    ZelToolButton button;
+    QMenu menu;
+    menu.addAction(QStringLiteral("Entry"));
+    button.setMenu(&menu);
+    button.show();
+    bool opened = false;
+    // The menu runs a loop of its own until it closes.
+    QTimer::singleShot(0, &menu, [&menu, &opened] {
+        opened = menu.isVisible();
+        menu.close();
+    });
+    QTest::keyClick(&button, Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(opened);
+}
+
 void ButtonsTest::theHandCursorComesAndGoes()
 {
     ZelToolButton button;
@@ -371,13 +393,16 @@ void ButtonsTest::aSwitchIsACheckBox()
     QSignalSpy toggled(&control, &ZelSwitchControl::toggled);
     QTest::keyClick(&control, Qt::Key_Space);
     QVERIFY(control.isChecked());
+    QTest::keyClick(&control, Qt::Key_Return);
+    QTest::keyClick(&control, Qt::Key_Enter);
+    QVERIFY(control.isChecked());
     QAccessibleInterface *access = accessible(&control);
     QCOMPARE(access->role(), QAccessible::CheckBox);
     QCOMPARE(access->text(QAccessible::Name), QStringLiteral("Shadows"));
     QVERIFY(access->state().checked && access->state().checkable);
     access->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     QVERIFY(!control.isChecked());
-    QCOMPARE(toggled.count(), 2);
+    QCOMPARE(toggled.count(), 4);
 
     // The pictures are 42 to 24 units.
     const QSize hint = control.sizeHint();
@@ -501,6 +526,23 @@ void ButtonsTest::focusIsSeenOnWhatPaintsItself()
         widget->setFocus(Qt::TabFocusReason);
         QVERIFY(widget->hasFocus());
         QVERIFY(widget->grab().toImage() != before);
+    }
+}
+
+void ButtonsTest::theFocusFrameFollowsTheTheme()
+{
+    GalleryApplication application(QStringLiteral("Dark"));
+    ZelSwitchControl control;
+    control.show();
+    for (const QString &theme :
+         {QStringLiteral("Light"), QStringLiteral("Dark"), QStringLiteral("Light")}) {
+        application.setTheme(theme);
+        control.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&control));
+        control.setFocus(Qt::TabFocusReason);
+        const QColor expected =
+            StyleFile::color(StyleFile::paletteInForce().value(QStringLiteral("@focus@")));
+        QCOMPARE(control.grab().toImage().pixelColor(control.width() / 2, 0), expected);
     }
 }
 

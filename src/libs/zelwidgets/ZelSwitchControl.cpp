@@ -3,6 +3,7 @@
 #include <ZelWidgets/HandleSvgInStyle>
 
 #include <QDebug>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -92,6 +93,16 @@ QSize ZelSwitchControl::sizeHint() const
     }
     const QSizeF scaled = QSizeF(hint) * d_->scale;
     return scaled.boundedTo(QSizeF(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)).toSize();
+}
+
+void ZelSwitchControl::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || event->isAutoRepeat()) {
+        ZelToolButton::keyPressEvent(event);
+        return;
+    }
+    click();
 }
 
 void ZelSwitchControl::showIcon(bool checked)

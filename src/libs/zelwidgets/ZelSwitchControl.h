@@ -6,8 +6,8 @@
 
 class ZelSwitchControlPrivate;
 
-/// A switch: a check box that is drawn as one of two pictures. Space switches it; what paints it is
-/// the picture alone, and a frame when it has the focus.
+/// A switch: a check box that is drawn as one of two pictures. Space and Enter switch it. Nothing
+/// but the picture is painted, and a frame for the focus.
 ///
 ///     auto *shadows = new ZelSwitchControl(ZelSwitchControl::OnOff, panel);
 ///     shadows->setToolTip(tr("Shadows"));
@@ -35,6 +35,9 @@ public:
     void setScale(float scale);
 
     QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void showIcon(bool checked);

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QMenu>
 #include <QPainter>
 #include <QResizeEvent>
 #include <QStyleOptionToolButton>
@@ -302,6 +304,15 @@ bool ZelToolButton::event(QEvent *event)
             setCursor(d_->normalCursor);
     }
     return QToolButton::event(event);
+}
+
+void ZelToolButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool opensMenu = event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier;
+    if (opensMenu && menu())
+        showMenu();
+    else
+        QToolButton::keyPressEvent(event);
 }
 
 void ZelToolButton::paintEvent(QPaintEvent *)

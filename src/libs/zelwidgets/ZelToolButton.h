@@ -21,7 +21,7 @@ class ZelToolButtonPrivate;
 ///
 /// Icons that draw themselves, as the themed ones do, are drawn at any size; of pictures with fixed
 /// sizes the largest that fits is taken. A button without a text has its tool tip as its accessible
-/// name.
+/// name. Alt and the Down key open the menu of a button that has one.
 class ZELWIDGETS_EXPORT ZelToolButton : public QToolButton
 {
     Q_OBJECT
@@ -92,6 +92,7 @@ protected:
     void setObjectName(const QString &name);
 
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
