@@ -125,8 +125,9 @@ void MenusTest::whatEndsAMenuHidesItAfterOneLoopAndItOpensAgain_data()
     QTest::newRow("hide") << End([this] { menu_->hide(); });
     QTest::newRow("close") << End([this] { menu_->close(); });
     QTest::newRow("escape") << End([this] { QTest::keyClick(menu_.get(), Qt::Key_Escape); });
-    QTest::newRow("click outside") << End(
-        [this] { QTest::mouseClick(window_->windowHandle(), Qt::LeftButton, {}, QPoint(150, 100)); });
+    QTest::newRow("click outside") << End([this] {
+        QTest::mouseClick(window_->windowHandle(), Qt::LeftButton, {}, QPoint(150, 100));
+    });
     QTest::newRow("native close") << End([this] { menu_->windowHandle()->close(); });
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QActionEvent>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QStyle>
 #include <QToolButton>
@@ -43,6 +44,7 @@ ZelToolBar::ZelToolBar(ToolBarBorderMode borderMode, QWidget *parent)
 QAction *ZelToolBar::addSpacer()
 {
     auto *spacer = new QWidget(this);
+    spacer->setObjectName(QStringLiteral("ToolBarSpacer"));
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return addWidget(spacer);
 }
@@ -98,9 +100,10 @@ void ZelToolBar::setToolBarStyleName(const QString &name)
     if (property(styleNameProperty).toString() == name)
         return;
     setProperty(styleNameProperty, name);
-    if (!testAttribute(Qt::WA_WState_Polished))
-        return;
     polishAnew(this);
+    // The layout of a tool bar asks for its margins on this event alone.
+    QEvent styleChange(QEvent::StyleChange);
+    QCoreApplication::sendEvent(this, &styleChange);
     for (QWidget *widget : findChildren<QWidget *>())
         polishAnew(widget);
 }

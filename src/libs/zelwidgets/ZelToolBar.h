@@ -26,7 +26,8 @@ public:
 
     explicit ZelToolBar(ToolBarBorderMode borderMode, QWidget *parent = nullptr);
 
-    /// Adds an empty widget that takes all space that is left, and returns its action.
+    /// Adds an empty widget that takes all space that is left, and returns its action. Its object
+    /// name is "ToolBarSpacer".
     QAction *addSpacer();
 
     IconSizeMode currentIconSizeMode() const;
