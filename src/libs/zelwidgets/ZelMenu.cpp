@@ -111,6 +111,10 @@ void ZelMenu::setVisible(bool visible)
         QMenu::setVisible(true);
     } else if (!isVisible()) {
         QMenu::setVisible(false);
+    } else if (deferredMenu == this && d_->closing && d_->hideQueued) {
+        // Qt closes a menu and then a menu bar hides it, all before the action is triggered: the
+        // hide that is on its way is enough.
+        return;
     } else if (!deferredMenu) {
         deferHide();
     } else {
@@ -155,9 +159,7 @@ void ZelMenu::closeEvent(QCloseEvent *event)
     if (!isVisible())
         return;
     d_->closing = true;
-    // Qt closes a menu of a chain more than once in one go: the queued hide is enough.
-    if (deferredMenu != this)
-        setVisible(false);
+    setVisible(false);
 }
 
 bool ZelMenu::staysOpenFor(QAction *action) const
@@ -199,6 +201,9 @@ void ZelMenu::mouseMoveEvent(QMouseEvent *event)
 {
     QMenu::mouseMoveEvent(event);
     QAction *action = actionAt(event->position().toPoint());
+    // A button may be pressed elsewhere and released here.
+    if (event->buttons() != Qt::NoButton)
+        d_->pressedAction = action == activeAction() ? action : nullptr;
     if (!action) {
         forgetTooltip();
     } else if (action != d_->actionUnderMouse) {

@@ -219,7 +219,8 @@ void MenusPage::addSizeChoice(QVBoxLayout *section)
     auto *row = new QHBoxLayout;
     row->setSpacing(12);
     auto *sizes = new QButtonGroup(this);
-    const QStringList texts{tr("16 pixels"), tr("24 pixels"), tr("32 pixels")};
+    const QStringList texts{tr("Small, 16 pixels"), tr("Medium, 24 pixels"),
+                            tr("Large, 32 pixels")};
     for (int i = 0; i < texts.size(); ++i) {
         auto *choice = new QRadioButton(texts[i], this);
         sizes->addButton(choice, i + 1);

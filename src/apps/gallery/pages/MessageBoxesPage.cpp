@@ -151,6 +151,8 @@ void MessageBoxesPage::addDialogs()
     QHBoxLayout *row = addRow(section);
     row->addWidget(createButton(tr("&Message dialog"), [this] { openMessageDialog(); }));
     row->addWidget(createButton(tr("Dialog that &remembers"), [this] { openRemembering(); }));
+    row->addStretch(1);
+    row = addRow(section);
     remember_ = new QCheckBox(tr("Remember the choice"), this);
     force_ = new QCheckBox(tr("Show it anyway"), this);
     row->addWidget(remember_);
