@@ -3,6 +3,8 @@
 #include "pages/ButtonsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/IconsPage.h"
+#include "pages/MenusPage.h"
+#include "pages/MessageBoxesPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/StyleSheetPage.h"
 #include "pages/ThemePage.h"
@@ -43,6 +45,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
+        {QStringLiteral("menus"), text("Menus and tool bars"),
+         text("Entries that stay open, submenus, tips of entries, icon sizes, separators"),
+         QStringLiteral("menu"), &make<MenusPage>},
+        {QStringLiteral("messages"), text("Message boxes"),
+         text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
+         &make<MessageBoxesPage>},
         {QStringLiteral("stylesheet"), text("Style sheet"),
          text("The finished sheet, with an editor that finds broken rules"),
          QStringLiteral("stylesheet"), &make<StyleSheetPage>},
