@@ -1,0 +1,7 @@
+#include "ZelWordWrapLabel.h"
+
+ZelWordWrapLabel::ZelWordWrapLabel(const QString &text)
+    : ZelLabel(text)
+{
+    enableCustomWordWrap(true);
+}
