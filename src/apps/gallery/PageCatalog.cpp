@@ -2,6 +2,7 @@
 
 #include "pages/ButtonsPage.h"
 #include "pages/FontsPage.h"
+#include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
@@ -48,6 +49,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("menus"), text("Menus and tool bars"),
          text("Entries that stay open, submenus, tips of entries, icon sizes, separators"),
          QStringLiteral("menu"), &make<MenusPage>},
+        {QStringLiteral("grouping"), text("Grouping"),
+         text("Collapsible list, accordion sections and content widgets"),
+         QStringLiteral("window_collapse"), &make<GroupingPage>},
         {QStringLiteral("messages"), text("Message boxes"),
          text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
          &make<MessageBoxesPage>},
