@@ -17,6 +17,7 @@ ZelEditableLabel::ZelEditableLabel(QWidget *parent)
     ZelAccessibleClickable::installFactory();
     setStyleSheet(QStringLiteral("background-color: transparent"));
     edit_->setStyleSheet(QStringLiteral("border: none; color: black"));
+    edit_->setAccessibleName(tr("Text"));
     label_->setTextFormat(Qt::PlainText);
     addWidget(label_);
     addWidget(edit_);

@@ -33,8 +33,8 @@ template <typename Field>
 Field *addRow(QFormLayout *form, const QString &name, Field *field, bool wide = false)
 {
     field->setAccessibleName(name);
-    if (wide)
-        field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    field->setSizePolicy(wide ? QSizePolicy::Expanding : QSizePolicy::Preferred,
+                         QSizePolicy::Fixed);
     form->addRow(name, field);
     return field;
 }
