@@ -1,6 +1,7 @@
 #include "TestCase.h"
 
 #include "ZelDesktopInhibitor.h"
+#include "ZelFileManagerCall.h"
 
 #include <ZelCore/ZelKeepAwake>
 
@@ -39,6 +40,19 @@ public Q_SLOTS:
     void UnInhibit(uint cookie) { held.removeOne(cookie); }
 };
 
+/// A file manager on the bus.
+class FileManager : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+public:
+    QStringList shown;
+
+public Q_SLOTS:
+    void ShowItems(const QStringList &addresses, const QString &) { shown += addresses; }
+};
+
 class TestDesktopServices : public TestCase
 {
     Q_OBJECT
@@ -55,6 +69,7 @@ private Q_SLOTS:
     void withoutAServiceNothingHappens();
     void withoutABusCallsReturnAtOnceAndQuietly();
     void anotherMeansCanBePutInPlace();
+    void theFileManagerIsAskedBeforeTheFolderIsOpened();
 
 private:
     void offerScreenSaver();
@@ -220,6 +235,30 @@ void TestDesktopServices::anotherMeansCanBePutInPlace()
     ZelKeepAwake::setInstance(nullptr);
     ZelKeepAwake::instance().keepAwake();
     QCOMPARE(calls, 11);
+}
+
+void TestDesktopServices::theFileManagerIsAskedBeforeTheFolderIsOpened()
+{
+    QStringList opened;
+    const auto open = [&opened](const QString &path) {
+        opened.append(path);
+    };
+    const QString path = text("/a b/c%#\n.png");
+    ZelFileManagerCall::showItem(QDBusConnection(text("no such connection")), path, open, this);
+    QCOMPARE(opened, QStringList(path));
+
+    SKIP_WITHOUT_BUS();
+    const QDBusConnection application(text("application"));
+    ZelFileManagerCall::showItem(application, path, open, this);
+    QTRY_COMPARE(opened.size(), 2);
+    FileManager manager;
+    QDBusConnection desktop(text("desktop"));
+    QVERIFY(desktop.registerObject(text("/org/freedesktop/FileManager1"), &manager,
+                                   QDBusConnection::ExportAllSlots));
+    QVERIFY(desktop.registerService(text("org.freedesktop.FileManager1")));
+    ZelFileManagerCall::showItem(application, path, open, this);
+    QTRY_COMPARE(manager.shown, QStringList(text("file:///a%20b/c%25%23%0A.png")));
+    QCOMPARE(opened.size(), 2);
 }
 
 ZEL_TEST_MAIN(TestDesktopServices)

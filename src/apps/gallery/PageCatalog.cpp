@@ -4,10 +4,12 @@
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
+#include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/StyleSheetPage.h"
+#include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
 #include "pages/WindowsPage.h"
 
@@ -58,6 +60,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("stylesheet"), text("Style sheet"),
          text("The finished sheet, with an editor that finds broken rules"),
          QStringLiteral("stylesheet"), &make<StyleSheetPage>},
+        {QStringLiteral("labels"), text("Labels"),
+         text("Eliding and wrapping labels, links, icons and pictures"), QStringLiteral("book"),
+         &make<LabelsPage>},
+        {QStringLiteral("texts"), text("Text and files"),
+         text("Line edits, combo boxes, search fields, files and folders"),
+         QStringLiteral("folder"), &make<TextsPage>},
         {QStringLiteral("plain"), text("Plain Qt widgets"),
          text("Every common Qt widget under the application's sheet"), QStringLiteral("widgets"),
          &make<PlainWidgetsPage>},

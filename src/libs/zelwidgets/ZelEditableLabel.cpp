@@ -17,6 +17,7 @@ ZelEditableLabel::ZelEditableLabel(QWidget *parent)
     ZelAccessibleClickable::installFactory();
     setStyleSheet(QStringLiteral("background-color: transparent"));
     edit_->setStyleSheet(QStringLiteral("border: none; color: black"));
+    edit_->setAccessibleName(tr("Text"));
     label_->setTextFormat(Qt::PlainText);
     addWidget(label_);
     addWidget(edit_);
@@ -45,7 +46,7 @@ bool ZelEditableLabel::isEditable() const
 void ZelEditableLabel::setText(const QString &text)
 {
     label_->setText(text);
-    if (isEditing())
+    if (isEditing_)
         edit_->setText(text);
 }
 
@@ -60,27 +61,23 @@ void ZelEditableLabel::setValidator(const QValidator *validator)
     edit_->setValidator(validator);
 }
 
-bool ZelEditableLabel::isEditing() const
-{
-    return currentWidget() == edit_;
-}
-
 void ZelEditableLabel::startEdit()
 {
-    if (!isEditable_ || isEditing())
+    if (!isEditable_ || isEditing_)
         return;
+    isEditing_ = true;
     edit_->setText(label_->text());
     setCurrentWidget(edit_);
     edit_->selectAll();
     QTimer::singleShot(0, edit_, [this] {
-        if (isEditing())
+        if (isEditing_)
             edit_->setFocus();
     });
 }
 
 void ZelEditableLabel::stopEdit()
 {
-    if (!isEditing())
+    if (!isEditing_)
         return;
     label_->setText(edit_->text());
     leaveEdit();
@@ -89,17 +86,24 @@ void ZelEditableLabel::stopEdit()
 
 void ZelEditableLabel::leaveEdit()
 {
+    // First of all: the line edit says that it is finished once more when it loses the focus.
+    isEditing_ = false;
     const bool hadFocus = edit_->hasFocus();
     setCurrentWidget(label_);
-    if (hadFocus)
-        setFocus();
+    if (!hadFocus)
+        return;
+    // Later, as the key that ended the edit is still on its way through here.
+    QTimer::singleShot(0, this, [this] {
+        if (!isEditing_ && (!window()->focusWidget() || isAncestorOf(window()->focusWidget())))
+            setFocus();
+    });
 }
 
 bool ZelEditableLabel::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isKey =
         event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
-    if (watched != edit_ || !isKey || !isEditing() ||
+    if (watched != edit_ || !isKey || !isEditing_ ||
         static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape)
         return QStackedWidget::eventFilter(watched, event);
     event->accept();
@@ -113,7 +117,7 @@ void ZelEditableLabel::paintEvent(QPaintEvent *event)
 {
     QStackedWidget::paintEvent(event);
     QPainter painter(this);
-    if (isEditing())
+    if (isEditing_)
         painter.fillRect(rect(), Qt::white);
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
@@ -131,12 +135,10 @@ void ZelEditableLabel::mouseDoubleClickEvent(QMouseEvent *event)
 
 void ZelEditableLabel::keyPressEvent(QKeyEvent *event)
 {
-    const bool isStart = event->key() == Qt::Key_F2 || event->key() == Qt::Key_Return ||
-                         event->key() == Qt::Key_Enter;
-    // The Enter that ended an edit comes here too, if the line edit passes it on.
-    if (isStart && isEditable_ && hasFocus())
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if ((isEnter || event->key() == Qt::Key_F2) && isEditable_ && hasFocus())
         startEdit();
-    else
+    else if (!isEnter || hasFocus())
         QStackedWidget::keyPressEvent(event);
 }
 

@@ -43,11 +43,11 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    bool isEditing() const;
     void stopEdit();
     void leaveEdit();
 
     QLabel *label_;
     QLineEdit *edit_;
     bool isEditable_ = true;
+    bool isEditing_ = false;
 };

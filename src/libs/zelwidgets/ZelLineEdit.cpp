@@ -11,6 +11,7 @@ namespace {
 constexpr int sideSpace = 2;
 // The base class's minimum hint has room for about so many characters already.
 constexpr int charactersOfMinimumHint = 3;
+constexpr double disabledOpacity = 0.6;
 
 } // namespace
 
@@ -84,6 +85,7 @@ void ZelLineEdit::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     painter.setFont(italic);
     painter.setPen(placeholderColor_);
+    painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
     painter.drawText(
         target, int(QStyle::visualAlignment(layoutDirection(), alignment())),
         painter.fontMetrics().elidedText(styleablePlaceholder_, Qt::ElideRight, target.width()));
