@@ -329,8 +329,9 @@ void ButtonsPage::addMenuButtons()
 
 void ButtonsPage::addSwitches()
 {
-    QGridLayout *table = addTable(tr("Switches"), tr("Space and Enter switch the one with the focus."),
-                                  {tr("off"), tr("on"), tr("disabled, off"), tr("disabled, on")});
+    QGridLayout *table =
+        addTable(tr("Switches"), tr("Space and Enter switch the one with the focus."),
+                 {tr("off"), tr("on"), tr("disabled, off"), tr("disabled, on")});
     const auto row = [this, table](const QString &title, auto change, int mode) {
         QList<QWidget *> cells;
         for (const bool enabled : {true, false}) {
