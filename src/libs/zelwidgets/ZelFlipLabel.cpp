@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int arrowSide = 8;
+// Larger fonts have it lower, in the middle of their line.
 constexpr int arrowTop = 4;
 constexpr int heightWithArrow = 11;
 constexpr int textStartWithArrow = 12;
@@ -150,7 +151,8 @@ void ZelFlipLabel::paintArrow(QPainter &painter)
     else if (isHovered_)
         icon = icon.hover();
     const int x = isMirrored ? width() - arrowSide : 0;
-    icon.paint(&painter, x, arrowTop, arrowSide, arrowSide);
+    const int y = std::max(arrowTop, (fontMetrics().height() - arrowSide) / 2);
+    icon.paint(&painter, x, y, arrowSide, arrowSide);
 }
 
 void ZelFlipLabel::mousePressEvent(QMouseEvent *event)

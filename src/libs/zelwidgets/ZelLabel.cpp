@@ -136,7 +136,6 @@ void ZelLabel::paintEvent(QPaintEvent *event)
     painter.setPen(palette().color(foregroundRole()));
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
-    option.setTextDirection(layoutDirection());
     painter.drawText(rect(), elided, option);
 }
 

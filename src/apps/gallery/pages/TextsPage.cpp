@@ -83,7 +83,7 @@ void TextsPage::addLineEdits()
     disabled->setStyleablePlaceholderText(tr("Nothing to enter"));
     disabled->setEnabled(false);
     auto *link = addRow(form, tr("Clickable"), new ZelClickableLineEdit);
-    link->setText(tr("Choose a material..."));
+    link->setText(tr("Choose a material"));
     auto *dead = addRow(form, tr("Clickable, disabled"), new ZelClickableLineEdit);
     dead->setText(tr("No material"));
     dead->setEnabled(false);
