@@ -111,7 +111,7 @@ void MessageBoxesTest::theDefaultButtonCountsDown()
     const UserInput::DialogAnswer answer([&](QDialog *dialog) {
         QTimer *second = timerOf(dialog, 1000);
         QTimer *end = timerOf(dialog, 3000);
-        QPushButton *button = buttonOf(dialog, QMessageBox::Yes);
+        QPushButton *button = buttonOf(dialog, QMessageBox::RestoreDefaults);
         if (!second || !end) {
             dialog->reject();
             return;
@@ -120,17 +120,19 @@ void MessageBoxesTest::theDefaultButtonCountsDown()
         for (int i = 0; i < 3; ++i) {
             fire(second);
             texts.append(button->text().remove(u'&'));
+            // A box does not grow any more.
             QVERIFY(button->sizeHint().width() <= width);
         }
         fire(end);
     });
-    const auto result =
-        ZelMessageBox::question(nullptr, QStringLiteral("Title"), QStringLiteral("Text"),
-                                QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, 3000);
+    const auto result = ZelMessageBox::question(
+        nullptr, QStringLiteral("Title"), QStringLiteral("Text"),
+        QMessageBox::RestoreDefaults | QMessageBox::No, QMessageBox::RestoreDefaults, 3000);
     QVERIFY(answer.finished());
-    QCOMPARE(result, QMessageBox::Yes);
-    QCOMPARE(texts, QStringList({QStringLiteral("Yes (2s)"), QStringLiteral("Yes (1s)"),
-                                 QStringLiteral("Yes (0s)")}));
+    QCOMPARE(result, QMessageBox::RestoreDefaults);
+    QCOMPARE(texts, QStringList({QStringLiteral("Restore Defaults (2s)"),
+                                 QStringLiteral("Restore Defaults (1s)"),
+                                 QStringLiteral("Restore Defaults (0s)")}));
 }
 
 void MessageBoxesTest::onlyADefaultButtonCountsDown()
