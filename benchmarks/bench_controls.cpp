@@ -5,6 +5,9 @@
 
 #include <ZelWidgets/HandleSvgInStyle>
 #include <ZelWidgets/IconColorTheme>
+#include <ZelWidgets/ZelAccordionWidget>
+#include <ZelWidgets/ZelLabel>
+#include <ZelWidgets/ZelLineEdit>
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelToolButton>
 
@@ -13,9 +16,12 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGridLayout>
-#include <QHoverEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <benchmark/benchmark.h>
 
@@ -23,11 +29,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
 
-constexpr int buttonCount = 1000;
+constexpr int controlCount = 1000;
 constexpr int hoveredCount = 500;
 constexpr int columns = 25;
 
@@ -43,18 +50,59 @@ struct Cost
     double bytes;
 };
 
+using Maker = QWidget *(*)(const QIcon &icon);
+
 template <typename Button>
-std::unique_ptr<QWidget> panelOf(int count, const QIcon &icon)
+QWidget *makeButton(const QIcon &icon)
+{
+    auto *button = new Button;
+    button->setIcon(icon);
+    button->setAutoRaise(true);
+    return button;
+}
+
+template <typename Label>
+QWidget *makeLabel(const QIcon &)
+{
+    return new Label(QStringLiteral("A label"));
+}
+
+template <typename Edit>
+QWidget *makeEdit(const QIcon &)
+{
+    return new Edit(QStringLiteral("Text"));
+}
+
+// What a panel does without the accordion: a checkable button over a container.
+QWidget *makePlainSection(const QIcon &)
+{
+    auto *section = new QWidget;
+    auto *layout = new QVBoxLayout(section);
+    auto *header = new QPushButton(QStringLiteral("Section"));
+    header->setCheckable(true);
+    header->setChecked(true);
+    auto *content = new QWidget;
+    (new QVBoxLayout(content))->addWidget(new QLabel(QStringLiteral("Content")));
+    layout->addWidget(header);
+    layout->addWidget(content);
+    QObject::connect(header, &QPushButton::toggled, content, &QWidget::setVisible);
+    return section;
+}
+
+QWidget *makeSection(const QIcon &)
+{
+    auto *section = new ZelAccordionWidget(QStringLiteral("Section"), QString(), Accordion::Open);
+    section->addWidget(new QLabel(QStringLiteral("Content")));
+    return section;
+}
+
+std::unique_ptr<QWidget> panelOf(int count, Maker make, const QIcon &icon)
 {
     auto panel = std::make_unique<QWidget>();
     auto *grid = new QGridLayout(panel.get());
     grid->setSpacing(1);
-    for (int i = 0; i < count; ++i) {
-        auto *button = new Button;
-        button->setIcon(icon);
-        button->setAutoRaise(true);
-        grid->addWidget(button, i / columns, i % columns);
-    }
+    for (int i = 0; i < count; ++i)
+        grid->addWidget(make(icon), i / columns, i % columns);
     return panel;
 }
 
@@ -64,13 +112,12 @@ double allocatedBytes()
     return double(info.uordblks) + double(info.hblkhd);
 }
 
-template <typename Button>
-Cost costOfPanel(const QIcon &icon)
+Cost costOfPanel(Maker make, const QIcon &icon)
 {
     const double before = allocatedBytes();
     QElapsedTimer clock;
     clock.start();
-    const std::unique_ptr<QWidget> panel = panelOf<Button>(buttonCount, icon);
+    const std::unique_ptr<QWidget> panel = panelOf(controlCount, make, icon);
     panel->show();
     panel->layout()->activate();
     QApplication::sendPostedEvents();
@@ -86,19 +133,19 @@ double median(std::vector<double> values)
 }
 
 // Both kinds in turn in each round, and the medians, so that what disturbs the machine meets both.
-void toolButtonPanel(benchmark::State &state, const QString &sheet)
+void panel(benchmark::State &state, Maker makePlain, Maker makeOurs, const QString &sheet)
 {
     qApp->setStyleSheet(sheet);
     const QIcon picture = icon();
-    costOfPanel<QToolButton>(picture);
-    costOfPanel<ZelToolButton>(picture);
+    costOfPanel(makePlain, picture);
+    costOfPanel(makeOurs, picture);
     std::vector<double> plainTimes;
     std::vector<double> ourTimes;
     std::vector<double> plainBytes;
     std::vector<double> ourBytes;
     for (auto _ : state) {
-        const Cost plain = costOfPanel<QToolButton>(picture);
-        const Cost ours = costOfPanel<ZelToolButton>(picture);
+        const Cost plain = costOfPanel(makePlain, picture);
+        const Cost ours = costOfPanel(makeOurs, picture);
         plainTimes.push_back(plain.milliseconds);
         ourTimes.push_back(ours.milliseconds);
         plainBytes.push_back(plain.bytes);
@@ -107,8 +154,8 @@ void toolButtonPanel(benchmark::State &state, const QString &sheet)
     state.counters["plain_ms"] = median(plainTimes);
     state.counters["ours_ms"] = median(ourTimes);
     state.counters["time_ratio"] = median(ourTimes) / median(plainTimes);
-    state.counters["plain_bytes_each"] = median(plainBytes) / buttonCount;
-    state.counters["ours_bytes_each"] = median(ourBytes) / buttonCount;
+    state.counters["plain_bytes_each"] = median(plainBytes) / controlCount;
+    state.counters["ours_bytes_each"] = median(ourBytes) / controlCount;
     state.counters["memory_ratio"] = median(ourBytes) / median(plainBytes);
 }
 
@@ -129,7 +176,7 @@ template <typename Button>
 struct HoveredPage
 {
     explicit HoveredPage(const QIcon &icon)
-        : panel(panelOf<Button>(hoveredCount, icon))
+        : panel(panelOf(hoveredCount, &makeButton<Button>, icon))
     {
         panel->show();
         QApplication::processEvents();
@@ -195,12 +242,28 @@ int main(int argc, char **argv)
     HandleSvgInStyle::prepareHandleSvgIcons();
 
     const QString sheet = SheetsUnderTest::finished(QStringLiteral("Dark"));
-    benchmark::RegisterBenchmark("toolButtonPanel/noSheet", toolButtonPanel, QString())
-        ->Iterations(15)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("toolButtonPanel/sheet", toolButtonPanel, sheet)
-        ->Iterations(15)
-        ->Unit(benchmark::kMillisecond);
+    const struct
+    {
+        const char *name;
+        Maker plain;
+        Maker ours;
+    } panels[] = {
+        {"toolButtons", &makeButton<QToolButton>, &makeButton<ZelToolButton>},
+        {"labels", &makeLabel<QLabel>, &makeLabel<ZelLabel>},
+        {"lineEdits", &makeEdit<QLineEdit>, &makeEdit<ZelLineEdit>},
+        {"sections", &makePlainSection, &makeSection},
+    };
+    for (const auto &entry : panels) {
+        const std::string name(entry.name);
+        benchmark::RegisterBenchmark((name + "/noSheet").c_str(), panel, entry.plain, entry.ours,
+                                     QString())
+            ->Iterations(9)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark((name + "/sheet").c_str(), panel, entry.plain, entry.ours,
+                                     sheet)
+            ->Iterations(9)
+            ->Unit(benchmark::kMillisecond);
+    }
     benchmark::RegisterBenchmark("hoverRepaints/noSheet", hoverRepaints, QString())
         ->Iterations(3)
         ->Unit(benchmark::kMillisecond);

@@ -6,7 +6,6 @@
 #            those, and builds it through find_package and pkg-config again
 
 set(here "${CMAKE_CURRENT_LIST_DIR}")
-string(REPLACE "," ";" HEADERS "${HEADERS}")
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output

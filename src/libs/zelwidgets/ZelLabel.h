@@ -4,6 +4,7 @@
 
 #include <QLabel>
 
+class QHelpEvent;
 class QTextDocument;
 
 /// A label that reports clicks, can elide its text, and can wrap it with a height that is right at
