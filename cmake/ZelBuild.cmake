@@ -4,8 +4,9 @@
 #                   PUBLIC <libs> PRIVATE <libs>)
 #   zel_sources(<target> <file>...)              sources of one folder
 #   zel_public_headers(<target> <header>[=Name,Name]...)
-#   zel_add_test(<name> [INTERNAL] [GUILESS] [SCREENS <file>] SOURCES <file>... [LIBRARIES <libs>])
-#       INTERNAL reaches classes that are not exported; GUILESS links no widgets and no support;
+#   zel_add_test(<name> [INTERNAL|CORE_INTERNAL|GUILESS] [SCREENS <file>] SOURCES <file>... [LIBRARIES <libs>])
+#       INTERNAL reaches classes of the widget library that are not exported, CORE_INTERNAL those
+#       of the core library (and links no widget library); GUILESS links no widgets and no support;
 #       SCREENS names a screen layout in tests/support
 #   zel_add_benchmark(<name> [INTERNAL] SOURCES <file>... [LIBRARIES <libs>])
 #   zel_add_fuzzer(<name> SOURCES <file>... SEEDS <folder> [LIBRARIES <libs>])
@@ -130,14 +131,18 @@ function(zel_link_for_checks target internal libraries)
 endfunction()
 
 function(zel_add_test name)
-    cmake_parse_arguments(arg "INTERNAL;GUILESS" "SCREENS" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "INTERNAL;CORE_INTERNAL;GUILESS" "SCREENS" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE Qt6::Test)
     if(arg_GUILESS)
         target_link_libraries(${name} PRIVATE Zel::Core zel_compile_options ${arg_LIBRARIES})
+    elseif(arg_CORE_INTERNAL)
+        # Neither the shared core nor what links it: there must be one copy in a process.
+        target_link_libraries(${name} PRIVATE
+            zeltestsupport zelcore_internal zel_compile_options ${arg_LIBRARIES})
     else()
-        zel_link_for_checks(${name} "${arg_INTERNAL}" "${arg_LIBRARIES}")
         target_link_libraries(${name} PRIVATE zeltestsupport)
+        zel_link_for_checks(${name} "${arg_INTERNAL}" "${arg_LIBRARIES}")
     endif()
     target_compile_definitions(${name} PRIVATE
         "ZEL_SOURCE_DIR=\"${PROJECT_SOURCE_DIR}\"" "ZEL_BINARY_DIR=\"${PROJECT_BINARY_DIR}\"")
@@ -161,7 +166,7 @@ endfunction()
 
 # With ZEL_FUZZ a libFuzzer target; without, the same entry point over its seeds, as a test.
 function(zel_add_fuzzer name)
-    cmake_parse_arguments(arg "" "SEEDS" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "CORE_INTERNAL" "SEEDS" "SOURCES;LIBRARIES" ${ARGN})
     if(ZEL_FUZZ)
         add_executable(${name} ${arg_SOURCES})
         target_link_options(${name} PRIVATE -fsanitize=fuzzer)
@@ -173,5 +178,10 @@ function(zel_add_fuzzer name)
             ENVIRONMENT "${ZEL_TEST_ENVIRONMENT}" TIMEOUT 120)
     endif()
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/fuzz")
-    zel_link_for_checks(${name} TRUE "${arg_LIBRARIES}")
+    if(arg_CORE_INTERNAL)
+        target_link_libraries(${name} PRIVATE
+            zelcore_internal zel_compile_options ${arg_LIBRARIES})
+    else()
+        zel_link_for_checks(${name} TRUE "${arg_LIBRARIES}")
+    endif()
 endfunction()
