@@ -1,5 +1,7 @@
 #include "GalleryPage.h"
 
+#include <ZelWidgets/ZelComboBox>
+
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
@@ -50,7 +52,9 @@ void GalleryPage::leaveWheelToScrolling()
 bool GalleryPage::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *widget = qobject_cast<QWidget *>(watched);
-    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus())
+    // A ZelComboBox leaves the wheel to scrolling by itself, and turns with Control.
+    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus() ||
+        qobject_cast<ZelComboBox *>(watched))
         return QWidget::eventFilter(watched, event);
     event->ignore();
     return true;

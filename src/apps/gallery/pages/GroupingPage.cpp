@@ -63,7 +63,11 @@ void GroupingPage::addCollapsibleList()
     watch(list, &ZelCollapsibleList::selectionChanged, QStringLiteral("selectionChanged"));
     watch(list, &ZelCollapsibleList::stateChanged, QStringLiteral("stateChanged"));
     auto *rename = new QAction(icon("fonts"), tr("Rename"), list);
-    connect(rename, &QAction::triggered, list, [list] { list->edit(list->currentIndex()); });
+    connect(rename, &QAction::triggered, list, [list] {
+        list->setState(ZelCollapsibleList::Expanded);
+        if (list->currentIndex().isValid())
+            list->edit(list->currentIndex());
+    });
     list->addButton(rename);
     row->addWidget(list, 1, Qt::AlignTop);
 

@@ -90,7 +90,7 @@ void MessageBoxesPage::addKinds()
     row->addStretch(1);
 
     row = addRow(section);
-    row->addWidget(createButton(tr("&Timed default"), [this] {
+    row->addWidget(createButton(tr("Timed def&ault"), [this] {
         ask(&ZelMessageBox::question, tr("Queue"), tr("Start the next picture?"),
             QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, timeout);
     }));
@@ -114,7 +114,7 @@ void MessageBoxesPage::addModes()
                        "process and are collected; the answer is the default button."));
     QHBoxLayout *row = addRow(section);
     auto *modes = new QButtonGroup(this);
-    const QStringList texts{tr("Sho&w"), tr("&No dialogs"), tr("&Silent")};
+    const QStringList texts{tr("S&how"), tr("&No dialogs"), tr("&Silent")};
     for (int i = 0; i < texts.size(); ++i) {
         auto *choice = new QRadioButton(texts[i], this);
         choice->setChecked(i == mode_);
