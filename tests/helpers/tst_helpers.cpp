@@ -299,6 +299,7 @@ void TestHelpers::preventSleepRepeatsTheRequestUntilItIsStopped()
     second.stop();
     QCOMPARE(calls, QStringLiteral("kkrkrkkr"));
     ZelKeepAwake::setInstance(nullptr);
+    QVERIFY(!dynamic_cast<Recorder *>(&ZelKeepAwake::instance()));
 }
 
 ZEL_TEST_MAIN(TestHelpers)

@@ -70,7 +70,6 @@ private Q_SLOTS:
     void incompleteFamilies();
     void redirectsTellModeAndState();
     void redirectsArePinned();
-    void badRedirectsGiveNoEngine_data();
     void badRedirectsGiveNoEngine();
     void theFactoryIsPublished();
     void plainIconsRenderTheirText();
@@ -357,33 +356,22 @@ void IconsTest::redirectsArePinned()
     QCOMPARE(centerOf(engine.get(), QIcon::Disabled, QIcon::Off), QColor(0x21, 0, 0));
 }
 
-void IconsTest::badRedirectsGiveNoEngine_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QtMsgType>("type");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing") << QByteArray() << QtWarningMsg << QStringLiteral("was not found.");
-    QTest::newRow("empty") << QByteArray("") << QtCriticalMsg << QStringLiteral("was invalid.");
-    QTest::newRow("blank") << QByteArray("\r\n\t\n") << QtCriticalMsg
-                           << QStringLiteral("was invalid.");
-    QTest::newRow("dangling") << QByteArray("nowhere.zelsvg\nhover") << QtCriticalMsg
-                              << QStringLiteral(
-                                     " refers to  \"nowhere.zelsvg\" which doesn't exists");
-    QTest::newRow("binary") << QByteArray("\xff\xfe\x80\x01") << QtCriticalMsg
-                            << QStringLiteral("which doesn't exists");
-    QTest::newRow("huge") << QByteArray(10 * 1024 * 1024, 'x') << QtCriticalMsg
-                          << QStringLiteral("which doesn't exists");
-}
-
 void IconsTest::badRedirectsGiveNoEngine()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QtMsgType, type);
-    QFETCH(QString, message);
-    const QString path = content.isNull() ? folder() + QStringLiteral("/missing.zelsvgr")
-                                          : writeFile(QStringLiteral("r.zelsvgr"), content);
-    messages().expect(type, message);
-    QVERIFY(!ZelCombinedIcon::createEngineForZELSVGR(path));
+    const std::tuple<QByteArray, QtMsgType, const char *> rows[] = {
+        {QByteArray(), QtWarningMsg, "was not found."},
+        {"", QtCriticalMsg, "was invalid."},
+        {"\r\n\t\n", QtCriticalMsg, "was invalid."},
+        {"nowhere.zelsvg\nhover", QtCriticalMsg,
+         " refers to  \"nowhere.zelsvg\" which doesn't exists"},
+        {"\xff\xfe\x80\x01", QtCriticalMsg, "which doesn't exists"},
+        {QByteArray(10 * 1024 * 1024, 'x'), QtCriticalMsg, "which doesn't exists"}};
+    for (const auto &[content, type, message] : rows) {
+        const QString path = content.isNull() ? folder() + QStringLiteral("/missing.zelsvgr")
+                                              : writeFile(QStringLiteral("r.zelsvgr"), content);
+        messages().expect(type, QString::fromLatin1(message));
+        QVERIFY(!ZelCombinedIcon::createEngineForZELSVGR(path));
+    }
 }
 
 void IconsTest::theFactoryIsPublished()

@@ -88,7 +88,6 @@ private Q_SLOTS:
     void exchangesTheFontRule();
 
     void makesTheSheetOfATheme();
-    void keepsThemesBeforeAFault_data();
     void keepsThemesBeforeAFault();
     void badFiles_data();
     void badFiles();
@@ -255,32 +254,26 @@ void StyleSheetsTest::makesTheSheetOfATheme()
     QVERIFY(unknown.contains(QStringLiteral("color: @text@ ;")));
 }
 
-void StyleSheetsTest::keepsThemesBeforeAFault_data()
-{
-    QTest::addColumn<QString>("palette");
-    QTest::addColumn<QString>("color");
-    const auto row = [](const char *name, const char *palette, const char *color) {
-        QTest::newRow(name) << QString::fromLatin1(palette) << QString::fromLatin1(color);
-    };
-    row("later theme with a number", R"({"Dark": {"@c@": "red"}, "Light": {"@c@": 1}})", "red");
-    row("earlier theme with a number", R"({"Apple": {"@c@": 1}, "Dark": {"@c@": "red"}})", "@c@");
-    row("theme that is a list", R"({"Dark": ["@c@", "red"]})", "@c@");
-    row("list of themes", R"([{"@c@": "red"}])", "@c@");
-    row("torn", R"({"Dark": {"@c@": "red"}, "Li)", "@c@");
-    row("behind it something else", R"({"Dark": {"@c@": "red"}} {})", "@c@");
-    row("empty", "", "@c@");
-}
-
 void StyleSheetsTest::keepsThemesBeforeAFault()
 {
-    QFETCH(QString, palette);
-    QFETCH(QString, color);
-    messages().expect(QtCriticalMsg,
-                      QRegularExpression(QStringLiteral(
-                          "^Error in JSON Color Palette in stylesheet:  \\[json\\.exception")));
-    QCOMPARE(ZelStyleSheets::parseFullStyleSheet(
-                 dark, withPalette(palette, QStringLiteral("A { color: @c@ ; }"))),
-             fontRule + QStringLiteral("\nA { color: %1 ; }").arg(color));
+    const std::pair<const char *, const char *> rows[] = {
+        {R"({"Dark": {"@c@": "red"}, "Light": {"@c@": 1}})", "red"},
+        {R"({"Apple": {"@c@": 1}, "Dark": {"@c@": "red"}})", "@c@"},
+        {R"({"Dark": ["@c@", "red"]})", "@c@"},
+        {R"([{"@c@": "red"}])", "@c@"},
+        {R"({"Dark": {"@c@": "red"}, "Li)", "@c@"},
+        {R"({"Dark": {"@c@": "red"}} {})", "@c@"},
+        {"", "@c@"}};
+    for (const auto &[palette, color] : rows) {
+        messages().expect(QtCriticalMsg,
+                          QRegularExpression(QStringLiteral(
+                              "^Error in JSON Color Palette in stylesheet:  \\[json\\.exception")));
+        const QString sheet = ZelStyleSheets::parseFullStyleSheet(
+            dark, withPalette(QString::fromLatin1(palette), QStringLiteral("A { color: @c@ ; }")));
+        QVERIFY2(sheet ==
+                     fontRule + QStringLiteral("\nA { color: %1 ; }").arg(QLatin1String(color)),
+                 palette);
+    }
 }
 
 void StyleSheetsTest::badFiles_data()
