@@ -95,8 +95,8 @@ private Q_SLOTS:
     void thePageListIsFilteredAndOperatedByKeys();
     void aBrokenRuleIsFoundWhereItWasTyped();
     void theFontSizeReachesEveryWidget();
-    void theButtonsPageSuitsEveryFontSize_data();
-    void theButtonsPageSuitsEveryFontSize();
+    void theControlsSuitEveryFontSize_data();
+    void theControlsSuitEveryFontSize();
     void aPlaceholderFollowsEverySwitch();
     void theWheelScrollsPastControlsWithoutFocus();
     void theCommandLineRefusesWhatItDoesNotKnow();
@@ -290,7 +290,7 @@ void GalleryTest::theFontSizeReachesEveryWidget()
     QTRY_COMPARE(combo->height(), height);
 }
 
-void GalleryTest::theButtonsPageSuitsEveryFontSize_data()
+void GalleryTest::theControlsSuitEveryFontSize_data()
 {
     QTest::addColumn<int>("points");
     QTest::addColumn<int>("iconSize");
@@ -298,16 +298,19 @@ void GalleryTest::theButtonsPageSuitsEveryFontSize_data()
     QTest::newRow("large") << 16 << 24;
 }
 
-void GalleryTest::theButtonsPageSuitsEveryFontSize()
+void GalleryTest::theControlsSuitEveryFontSize()
 {
     QFETCH(const int, points);
     QFETCH(const int, iconSize);
     application_->setFontSize(points);
     const auto restore = qScopeGuard([this] { application_->setFontSize(-1); });
-    const int index = pageIndex(QStringLiteral("buttons"));
-    window_->showPage(index);
-    const GalleryPage *page = window_->page(index);
-    QTRY_VERIFY(page->minimumSizeHint().width() <= 1000);
+    const GalleryPage *page = nullptr;
+    for (const char *name : {"labels", "texts", "menus", "grouping", "messages", "buttons"}) {
+        const int index = pageIndex(QLatin1String(name));
+        window_->showPage(index);
+        page = window_->page(index);
+        QTRY_VERIFY2(page->minimumSizeHint().width() <= 1000, name);
+    }
     const auto *box = page->findChild<QCheckBox *>();
     QVERIFY(qAbs(box->iconSize().height() - iconSize) <= 2);
     QVERIFY(qAbs(box->style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, box) - iconSize) <=
