@@ -1,10 +1,9 @@
 #include "ZelCollapsibleList.h"
 
 #include "ZelComboBox.h"
+#include "ZelStoredValue.h"
 #include "ZelToolButton.h"
 #include "theme/SingleClickActivationStyle.h"
-
-#include <ZelCore/ZelSettings>
 
 #include <QAction>
 #include <QGuiApplication>
@@ -111,7 +110,8 @@ void ZelCollapsibleList::restoreState()
 {
     const ZelSettings settings = settingsOf(this);
     if (settings.hasKey(stateKey()))
-        setState(settings.value(stateKey()).toInt() == Collapsed ? Collapsed : Expanded);
+        setState(storedValue<int>(settings, stateKey(), Expanded) == Collapsed ? Collapsed
+                                                                               : Expanded);
     // The height of a list that was never shown is none to come back to.
     expandedHeight_ = 0;
 }

@@ -1,6 +1,6 @@
 #include "ZelMenuButton.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 
 #include <QAction>
 #include <QMenu>
@@ -11,7 +11,7 @@ ZelMenuButton::ZelMenuButton(QWidget *parent)
     : QPushButton(parent)
     , menu_(new QMenu(this))
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
     setProperty("ZelMenuButton", true);
     menu_->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     menu_->setAttribute(Qt::WA_TranslucentBackground);
