@@ -5,6 +5,7 @@
 #include <ZelWidgets/ZelSeparator>
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelToolBar>
+#include <ZelWidgets/ZelToolButton>
 
 #include <QActionGroup>
 #include <QButtonGroup>
@@ -13,7 +14,6 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -61,8 +61,8 @@ MenusPage::MenusPage(QWidget *parent)
 
 QToolButton *MenusPage::createMenuButton(const QString &text, ZelMenu *menu)
 {
-    auto *button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("BorderButtonMenu"));
+    auto *button = new ZelToolButton(ZelToolButton::Border, this);
+    button->addToObjectName(QStringLiteral("Menu"));
     button->setText(text);
     button->setPopupMode(QToolButton::InstantPopup);
     button->setFocusPolicy(Qt::StrongFocus);
