@@ -163,6 +163,9 @@ void GalleryTest::theTabKeyReachesEveryControlAndItsFocusIsSeen()
         QList<QWidget *> reached = tabOnceAround(list);
         QVERIFY2(reached.last() == list,
                  qPrintable(pageCatalog()[i].id + u' ' + nameOf(reached.last())));
+        const QWidget *area = window_->page(i)->parentWidget()->parentWidget();
+        QVERIFY2(area == reached.first() || area->isAncestorOf(reached.first()),
+                 qPrintable(QStringLiteral("first: ") + nameOf(reached.first())));
         for (QWidget *widget : window_->page(i)->findChildren<QWidget *>()) {
             if (isTabStop(widget) && !holds(reached, widget))
                 faults.append(QStringLiteral("not reached: ") + nameOf(widget));
