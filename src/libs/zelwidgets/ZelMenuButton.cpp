@@ -3,6 +3,7 @@
 #include "ZelAccessible.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 
 #include <algorithm>
@@ -203,6 +204,14 @@ void ZelMenuButton::trigger(QAction *action)
         Q_EMIT triggered(action);
     if (self)
         Q_EMIT textActivated(text);
+}
+
+void ZelMenuButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier)
+        showMenu();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 void ZelMenuButton::updateText()
