@@ -56,7 +56,9 @@ bool wheel(QWidget *widget, double steps, Qt::KeyboardModifiers modifiers)
     QWheelEvent event(local, widget->mapToGlobal(local), QPoint(), QPoint(0, qRound(steps * 120)),
                       Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
     event.ignore();
-    QCoreApplication::sendEvent(widget, &event);
+    // Only events of the window system go on to the parents.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(widget, &event);
     return event.isAccepted();
 }
 

@@ -1,0 +1,75 @@
+#include "ZelDoubleSpinBox.h"
+
+#include "ZelControlWheel.h"
+#include "ZelKeypadDecimal.h"
+#include "ZelNumberText.h"
+
+#include <QDebug>
+
+QLocale ZelDoubleSpinBox::locale = QLocale::system();
+
+ZelDoubleSpinBox::ZelDoubleSpinBox(QWidget *parent)
+    : QDoubleSpinBox(parent)
+{
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    // The base class reads texts by the widget's own locale.
+    setLocale(locale);
+    setAlignment(Qt::AlignLeft);
+    setKeyboardTracking(false);
+    setDecimals(4);
+    setMinimumWidth(50);
+    setAttribute(Qt::WA_MacShowFocusRect, false);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void ZelDoubleSpinBox::setCanBeZero(bool canBeZero)
+{
+    canBeZero_ = canBeZero;
+}
+
+void ZelDoubleSpinBox::setDegreeSuffix()
+{
+    setSuffix(tr(" %1").arg(QChar(0xb0)));
+}
+
+void ZelDoubleSpinBox::stepBy(int steps)
+{
+    if (canBeZero_) {
+        QDoubleSpinBox::stepBy(steps);
+        return;
+    }
+    const auto taken = ZelNumberText::stepsPastZero(value(), singleStep(), steps);
+    if (taken)
+        QDoubleSpinBox::stepBy(*taken);
+    else
+        qWarning() << "Single step was set unexpectedly low";
+}
+
+void ZelDoubleSpinBox::wheelEvent(QWheelEvent *event)
+{
+    ZelControlWheel::turn(event,
+                          [this](QWheelEvent *turned) { QDoubleSpinBox::wheelEvent(turned); });
+}
+
+void ZelDoubleSpinBox::keyPressEvent(QKeyEvent *event)
+{
+    ZelKeypadDecimal::press(event, locale,
+                            [this](QKeyEvent *typed) { QDoubleSpinBox::keyPressEvent(typed); });
+}
+
+double ZelDoubleSpinBox::valueFromText(const QString &text) const
+{
+    const double number = QDoubleSpinBox::valueFromText(text);
+    return canBeZero_ ? number : ZelNumberText::keptFromZero(number);
+}
+
+QString ZelDoubleSpinBox::textFromValue(double value) const
+{
+    return ZelNumberText::spinBoxText(value, decimals(), locale);
+}
+
+void ZelDoubleSpinBox::fixup(QString &text) const
+{
+    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale))
+        QDoubleSpinBox::fixup(text);
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+#include <optional>
+
+/// Numbers as texts and back, and the arithmetic of a field that may not be zero; without widgets.
+namespace ZelNumberText {
+
+/// How a field writes its numbers.
+struct Format
+{
+    int decimals = 3;
+    /// Always this many decimals; otherwise numbers below 1 get as many more as they have zeros
+    /// behind the point.
+    bool decimalsIsAbsolute = true;
+    bool stripTailingZeros = true;
+};
+
+/// The most decimals that a field takes: what the smallest double needs.
+constexpr int maximumDecimals = 323;
+
+/// The digits behind the decimal point of a typed text. A point in front of all else counts none.
+int countDecimals(const QString &text, const QLocale &locale);
+/// The decimals that a number of this size is written with.
+int decimalsFor(double value, const Format &format);
+/// Takes the zeros off the end of a text with a decimal point, and the point if nothing follows it.
+/// A zero with a minus loses the minus.
+QString stripEndingZeros(const QString &text, const QLocale &locale);
+QString fromNumber(double value, const Format &format, const QLocale &locale);
+/// The rule of the free-standing spin box: zeros at the end go whether or not there is a decimal
+/// point, so it is for fields with decimals; with none, 100 becomes "1".
+QString spinBoxText(double value, int decimals, const QLocale &locale);
+
+/// Whether the locale reads the text between prefix and suffix; group separators have to be in
+/// their places.
+bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale);
+
+/// Below this a number counts as zero where zero is not allowed.
+constexpr double smallestNonZero = 1e-6;
+/// The number, or the nearest one that does not count as zero.
+double keptFromZero(double value);
+/// The steps to take so that the result does not count as zero; nothing if the step is so small
+/// that one more would not get past zero.
+std::optional<int> stepsPastZero(double value, double singleStep, int steps);
+
+} // namespace ZelNumberText
