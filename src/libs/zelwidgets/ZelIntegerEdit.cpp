@@ -49,10 +49,8 @@ void ZelIntegerEdit::valueChangedSlot(int value)
 
 void ZelIntegerEdit::tellChange()
 {
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent change(this, *value_);
-        QAccessible::updateAccessibility(&change);
-    }
+    QAccessibleValueChangeEvent change(this, *value_);
+    QAccessible::updateAccessibility(&change);
     Q_EMIT valueUpdated();
 }
 
@@ -82,8 +80,20 @@ void ZelIntegerEdit::contextMenuEvent(QContextMenuEvent *event)
     ZelNumberFieldMenu::show(ZelNumberFieldMenu::forField(this, [this] { resetByUser(); }), event);
 }
 
+int ZelIntegerEdit::valueFromText(const QString &text) const
+{
+    return QSpinBox::valueFromText(ZelNumberText::readable(text, locale()));
+}
+
+QValidator::State ZelIntegerEdit::validate(QString &text, int &position) const
+{
+    return ZelNumberText::validate(
+        text, position, {prefix(), suffix(), locale()},
+        [this](QString &checked, int &at) { return QSpinBox::validate(checked, at); });
+}
+
 void ZelIntegerEdit::fixup(QString &text) const
 {
-    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale()))
+    if (ZelNumberText::isNumber(text, {prefix(), suffix(), locale()}))
         QSpinBox::fixup(text);
 }

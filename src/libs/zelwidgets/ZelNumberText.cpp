@@ -49,15 +49,29 @@ QString spinBoxText(double value, int decimals, const QLocale &locale)
     return text;
 }
 
-bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale)
+QString readable(QString text, const QLocale &locale)
 {
-    if (!prefix.isEmpty() && text.startsWith(prefix))
-        text.remove(0, prefix.size());
-    if (!suffix.isEmpty() && text.endsWith(suffix))
-        text.chop(suffix.size());
-    bool readable = false;
-    locale.toDouble(text, &readable);
-    return readable;
+    const QString minus = locale.negativeSign();
+    if (minus != QLatin1String("-"))
+        text.replace(minus, QLatin1String("-"));
+    return text.remove(QChar(0x061c)).remove(QChar(0x200e)).remove(QChar(0x200f));
+}
+
+void makeReadable(QString &text, int &position, const QLocale &locale)
+{
+    position = static_cast<int>(readable(text.left(position), locale).size());
+    text = readable(text, locale);
+}
+
+bool isNumber(QString text, const Frame &frame)
+{
+    if (!frame.prefix.isEmpty() && text.startsWith(frame.prefix))
+        text.remove(0, frame.prefix.size());
+    if (!frame.suffix.isEmpty() && text.endsWith(frame.suffix))
+        text.chop(frame.suffix.size());
+    bool isRead = false;
+    frame.locale.toDouble(readable(text, frame.locale), &isRead);
+    return isRead;
 }
 
 double keptFromZero(double value)
