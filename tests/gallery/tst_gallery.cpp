@@ -10,6 +10,7 @@
 #include <ZelWidgets/ZelStyleSheets>
 
 #include <QAccessible>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -23,6 +24,7 @@
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolBox>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -93,6 +95,8 @@ private Q_SLOTS:
     void thePageListIsFilteredAndOperatedByKeys();
     void aBrokenRuleIsFoundWhereItWasTyped();
     void theFontSizeReachesEveryWidget();
+    void theControlsSuitEveryFontSize_data();
+    void theControlsSuitEveryFontSize();
     void aPlaceholderFollowsEverySwitch();
     void theWheelScrollsPastControlsWithoutFocus();
     void theCommandLineRefusesWhatItDoesNotKnow();
@@ -284,6 +288,49 @@ void GalleryTest::theFontSizeReachesEveryWidget()
     // The second change, and a smaller font: what had to grow shrinks again.
     application_->setFontSize(-1);
     QTRY_COMPARE(combo->height(), height);
+}
+
+void GalleryTest::theControlsSuitEveryFontSize_data()
+{
+    QTest::addColumn<int>("points");
+    QTest::addColumn<int>("iconSize");
+    QTest::newRow("small") << 8 << 16;
+    QTest::newRow("large") << 16 << 24;
+}
+
+void GalleryTest::theControlsSuitEveryFontSize()
+{
+    QFETCH(const int, points);
+    QFETCH(const int, iconSize);
+    application_->setFontSize(points);
+    const auto restore = qScopeGuard([this] { application_->setFontSize(-1); });
+    const GalleryPage *page = nullptr;
+    for (const char *name : {"labels", "texts", "menus", "grouping", "messages", "buttons"}) {
+        const int index = pageIndex(QLatin1String(name));
+        window_->showPage(index);
+        page = window_->page(index);
+        QTRY_VERIFY2(page->minimumSizeHint().width() <= 1000, name);
+    }
+    const auto *box = page->findChild<QCheckBox *>();
+    QVERIFY(qAbs(box->iconSize().height() - iconSize) <= 2);
+    QVERIFY(qAbs(box->style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, box) - iconSize) <=
+            4);
+
+    // In each pair the push button follows the tool button.
+    const QToolButton *tool = nullptr;
+    int pairs = 0;
+    for (const auto *button : page->findChildren<QAbstractButton *>()) {
+        if (!button->property("rank").isValid())
+            continue;
+        if (const auto *next = qobject_cast<const QToolButton *>(button)) {
+            tool = next;
+            continue;
+        }
+        QCOMPARE(tool->sizeHint().height(), button->sizeHint().height());
+        QVERIFY(qAbs(tool->sizeHint().width() - button->sizeHint().width()) <= 3);
+        ++pairs;
+    }
+    QCOMPARE(pairs, 18);
 }
 
 void GalleryTest::aPlaceholderFollowsEverySwitch()

@@ -192,7 +192,7 @@ void MenusPage::fill(ZelToolBar *bar)
     locked->setChecked(true);
     bar->addAction(icon("delete"), tr("Disabled"))->setEnabled(false);
     bar->addSpacer();
-    bar->addAction(icon("question"), tr("Behind the spacer"));
+    bar->addAction(icon("question"), tr("Help"));
 }
 
 void MenusPage::addToolBars()
@@ -232,11 +232,13 @@ void MenusPage::addSizeChoice(QVBoxLayout *section)
     height->setAccessibleName(tr("Wanted height"));
     auto *label = new QLabel(tr("&Best for a height of"), this);
     label->setBuddy(height);
-    row->addSpacing(16);
-    row->addWidget(label);
-    row->addWidget(height);
     row->addStretch(1);
     section->addLayout(row);
+    auto *heightRow = new QHBoxLayout;
+    heightRow->addWidget(label);
+    heightRow->addWidget(height);
+    heightRow->addStretch(1);
+    section->addLayout(heightRow);
     connect(sizes, &QButtonGroup::idClicked, this, [this](int mode) {
         for (ZelToolBar *bar : std::as_const(bars_))
             bar->setIconSizeMode(ZelToolBar::IconSizeMode(mode));
