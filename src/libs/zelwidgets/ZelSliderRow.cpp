@@ -1,6 +1,7 @@
 #include "ZelSliderRow.h"
 
 #include "ZelAccessibleValue.h"
+#include "ZelFlipLabel.h"
 
 #include <QAbstractSpinBox>
 #include <QBoxLayout>
@@ -13,6 +14,15 @@ namespace ZelSliderRow {
 namespace {
 
 constexpr int minimumSliderWidth = 100;
+
+QString textOf(const QWidget *caption)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(caption))
+        return label->text();
+    if (const auto *label = qobject_cast<const ZelFlipLabel *>(caption))
+        return label->text();
+    return caption ? caption->accessibleName() : QString();
+}
 
 } // namespace
 
@@ -57,8 +67,7 @@ void prepareSlider(QSlider *slider)
 void describe(const QWidget *caption, QAbstractSpinBox *field, QSlider *slider)
 {
     ZelAccessibleValue::describeBy(slider, field);
-    const auto *label = qobject_cast<const QLabel *>(caption);
-    const QString name = label ? label->text() : caption ? caption->accessibleName() : QString();
+    const QString name = textOf(caption);
     field->setAccessibleName(name);
     slider->setAccessibleName(name);
 }
