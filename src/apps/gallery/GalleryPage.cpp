@@ -1,7 +1,5 @@
 #include "GalleryPage.h"
 
-#include <ZelWidgets/ZelComboBox>
-
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAbstractSpinBox>
@@ -11,6 +9,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 GalleryPage::GalleryPage(QWidget *parent)
     : QWidget(parent)
@@ -52,9 +51,10 @@ void GalleryPage::leaveWheelToScrolling()
 bool GalleryPage::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *widget = qobject_cast<QWidget *>(watched);
-    // A ZelComboBox leaves the wheel to scrolling by itself, and turns with Control.
-    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus() ||
-        qobject_cast<ZelComboBox *>(watched))
+    if (event->type() != QEvent::Wheel || !widget || widget->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    // With Control the wheel turns what it is over; the library's own editors decide by themselves.
+    if (static_cast<QWheelEvent *>(event)->modifiers().testFlag(Qt::ControlModifier))
         return QWidget::eventFilter(watched, event);
     event->ignore();
     return true;

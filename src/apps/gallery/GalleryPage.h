@@ -18,7 +18,7 @@ public:
     /// widgets are not sent a style event for every switch.
     virtual void lookChanged() {}
     /// Lets the mouse wheel scroll the page past controls that don't have the focus, instead of
-    /// changing their values.
+    /// changing their values; with Control it changes them.
     void leaveWheelToScrolling();
 
     bool eventFilter(QObject *watched, QEvent *event) override;

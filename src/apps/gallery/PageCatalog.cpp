@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
@@ -61,6 +62,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("menus"), text("Menus and tool bars"),
          text("Entries that stay open, submenus, tips of entries, icon sizes, separators"),
          QStringLiteral("menu"), &make<MenusPage>},
+        {QStringLiteral("fields"), text("Number fields"),
+         text("Fields bound to numbers, display units, spin boxes and times"),
+         QStringLiteral("gear"), &make<FieldsPage>},
         {QStringLiteral("grouping"), text("Grouping"),
          text("Collapsible list, accordion sections and content widgets"),
          QStringLiteral("window_collapse"), &make<GroupingPage>},

@@ -136,10 +136,8 @@ void ZelDoubleEdit::valueChangedSlot(double value)
 
 void ZelDoubleEdit::tellChange()
 {
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent change(this, value());
-        QAccessible::updateAccessibility(&change);
-    }
+    QAccessibleValueChangeEvent change(this, value());
+    QAccessible::updateAccessibility(&change);
     Q_EMIT valueUpdated();
 }
 
@@ -190,9 +188,10 @@ double ZelDoubleEdit::valueFromText(const QString &text) const
     QString number = text;
     if (!suffix().isEmpty())
         number.remove(suffix());
-    bool readable = false;
-    const double result = locale.toDouble(number, &readable);
-    if (!readable)
+    number = ZelNumberText::readable(number, locale);
+    bool isRead = false;
+    const double result = locale.toDouble(number, &isRead);
+    if (!isRead)
         return static_cast<double>(*value_);
     adaptDecimals(number);
     return result;
@@ -225,9 +224,15 @@ QString ZelDoubleEdit::stripEndingZeros(const QString &text) const
     return stripTailingZeros_ ? ZelNumberText::stripEndingZeros(text, locale) : text;
 }
 
+QValidator::State ZelDoubleEdit::validate(QString &text, int &position) const
+{
+    ZelNumberText::makeReadable(text, position, locale);
+    const QValidator::State state = QDoubleSpinBox::validate(text, position);
+    return ZelNumberText::judge(state, text, prefix(), suffix(), locale);
+}
+
 void ZelDoubleEdit::fixup(QString &text) const
 {
-    // The base class drops group separators wherever they are: 1.5 would be 15 in German.
     if (ZelNumberText::isNumber(text, prefix(), suffix(), locale))
         QDoubleSpinBox::fixup(text);
 }

@@ -58,6 +58,9 @@ public:
     /// owned; when it goes, the stored number is shown as it is.
     void setUnit(const ZelUnitManager *manager);
 
+    QValidator::State validate(QString &text, int &position) const override;
+    void fixup(QString &text) const override;
+
 public Q_SLOTS:
     /// Shows the number as it is now. Emits nothing.
     void updateValue();
@@ -82,7 +85,6 @@ protected:
     /// More decimals than are shown raise the number of decimals.
     double valueFromText(const QString &text) const override;
     QString textFromValue(double value) const override;
-    void fixup(QString &text) const override;
 
 private:
     int countDecimals(const QString &text) const;

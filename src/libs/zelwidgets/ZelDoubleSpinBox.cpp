@@ -59,13 +59,20 @@ void ZelDoubleSpinBox::keyPressEvent(QKeyEvent *event)
 
 double ZelDoubleSpinBox::valueFromText(const QString &text) const
 {
-    const double number = QDoubleSpinBox::valueFromText(text);
+    const double number = QDoubleSpinBox::valueFromText(ZelNumberText::readable(text, locale));
     return canBeZero_ ? number : ZelNumberText::keptFromZero(number);
 }
 
 QString ZelDoubleSpinBox::textFromValue(double value) const
 {
     return ZelNumberText::spinBoxText(value, decimals(), locale);
+}
+
+QValidator::State ZelDoubleSpinBox::validate(QString &text, int &position) const
+{
+    ZelNumberText::makeReadable(text, position, locale);
+    const QValidator::State state = QDoubleSpinBox::validate(text, position);
+    return ZelNumberText::judge(state, text, prefix(), suffix(), locale);
 }
 
 void ZelDoubleSpinBox::fixup(QString &text) const

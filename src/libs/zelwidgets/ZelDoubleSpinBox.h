@@ -27,13 +27,14 @@ public:
     void setDegreeSuffix();
 
     void stepBy(int steps) override;
+    QValidator::State validate(QString &text, int &position) const override;
+    void fixup(QString &text) const override;
 
 protected:
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     double valueFromText(const QString &text) const override;
     QString textFromValue(double value) const override;
-    void fixup(QString &text) const override;
 
 private:
     bool canBeZero_ = true;

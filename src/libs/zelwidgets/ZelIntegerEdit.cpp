@@ -49,10 +49,8 @@ void ZelIntegerEdit::valueChangedSlot(int value)
 
 void ZelIntegerEdit::tellChange()
 {
-    if (QAccessible::isActive()) {
-        QAccessibleValueChangeEvent change(this, *value_);
-        QAccessible::updateAccessibility(&change);
-    }
+    QAccessibleValueChangeEvent change(this, *value_);
+    QAccessible::updateAccessibility(&change);
     Q_EMIT valueUpdated();
 }
 
@@ -80,6 +78,18 @@ void ZelIntegerEdit::focusOutEvent(QFocusEvent *event)
 void ZelIntegerEdit::contextMenuEvent(QContextMenuEvent *event)
 {
     ZelNumberFieldMenu::show(ZelNumberFieldMenu::forField(this, [this] { resetByUser(); }), event);
+}
+
+int ZelIntegerEdit::valueFromText(const QString &text) const
+{
+    return QSpinBox::valueFromText(ZelNumberText::readable(text, locale()));
+}
+
+QValidator::State ZelIntegerEdit::validate(QString &text, int &position) const
+{
+    ZelNumberText::makeReadable(text, position, locale());
+    const QValidator::State state = QSpinBox::validate(text, position);
+    return ZelNumberText::judge(state, text, prefix(), suffix(), locale());
 }
 
 void ZelIntegerEdit::fixup(QString &text) const

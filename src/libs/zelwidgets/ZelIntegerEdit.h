@@ -16,6 +16,9 @@ public:
     /// not changed until the user does.
     ZelIntegerEdit(QWidget *parent, int minimum, int maximum, int *value);
 
+    QValidator::State validate(QString &text, int &position) const override;
+    void fixup(QString &text) const override;
+
 public Q_SLOTS:
     /// The number, as a float.
     float getValue();
@@ -39,7 +42,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void fixup(QString &text) const override;
+    int valueFromText(const QString &text) const override;
 
 private:
     void resetByUser();

@@ -37,6 +37,18 @@ bool canStep(QAbstractSpinBox *field, const char *limit)
            (field->wrapping() || field->property("value") != field->property(limit));
 }
 
+/// The text without the field's prefix and suffix.
+QString withoutUnit(const QAbstractSpinBox *field, QString text)
+{
+    const QString prefix = field->property("prefix").toString();
+    const QString suffix = field->property("suffix").toString();
+    if (!prefix.isEmpty() && text.startsWith(prefix))
+        text.remove(0, prefix.size());
+    if (!suffix.isEmpty() && text.endsWith(suffix))
+        text.chop(suffix.size());
+    return text.trimmed();
+}
+
 } // namespace
 
 QMenu *forField(QAbstractSpinBox *field, const Reset &reset)
@@ -77,27 +89,19 @@ void show(QMenu *menu, QContextMenuEvent *event)
 
 void copyNumber(QAbstractSpinBox *field)
 {
-    QString text = field->text();
-    const QString prefix = field->property("prefix").toString();
-    const QString suffix = field->property("suffix").toString();
-    if (!prefix.isEmpty() && text.startsWith(prefix))
-        text.remove(0, prefix.size());
-    if (!suffix.isEmpty() && text.endsWith(suffix))
-        text.chop(suffix.size());
-    QGuiApplication::clipboard()->setText(text.trimmed());
+    QGuiApplication::clipboard()->setText(withoutUnit(field, field->text()));
 }
 
 void pasteNumber(QAbstractSpinBox *field)
 {
-    const QString text = QGuiApplication::clipboard()->text().trimmed();
-    if (!isEditable(field) || text.isEmpty())
-        return;
-    QString checked = text;
+    const QString number = withoutUnit(field, QGuiApplication::clipboard()->text().trimmed());
+    QString checked = number;
     int cursor = 0;
-    if (field->validate(checked, cursor) == QValidator::Invalid)
+    if (!isEditable(field) || number.isEmpty() ||
+        field->validate(checked, cursor) == QValidator::Invalid)
         return;
     field->selectAll();
-    field->findChild<QLineEdit *>()->insert(checked);
+    field->findChild<QLineEdit *>()->insert(number);
     field->interpretText();
 }
 

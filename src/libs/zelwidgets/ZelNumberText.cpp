@@ -49,15 +49,38 @@ QString spinBoxText(double value, int decimals, const QLocale &locale)
     return text;
 }
 
+QString readable(QString text, const QLocale &locale)
+{
+    const QString minus = locale.negativeSign();
+    if (minus != QLatin1String("-"))
+        text.replace(minus, QLatin1String("-"));
+    return text.remove(QChar(0x061c)).remove(QChar(0x200e)).remove(QChar(0x200f));
+}
+
+void makeReadable(QString &text, int &position, const QLocale &locale)
+{
+    position = static_cast<int>(readable(text.left(position), locale).size());
+    text = readable(text, locale);
+}
+
 bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale)
 {
     if (!prefix.isEmpty() && text.startsWith(prefix))
         text.remove(0, prefix.size());
     if (!suffix.isEmpty() && text.endsWith(suffix))
         text.chop(suffix.size());
-    bool readable = false;
-    locale.toDouble(text, &readable);
-    return readable;
+    bool isRead = false;
+    locale.toDouble(readable(text, locale), &isRead);
+    return isRead;
+}
+
+QValidator::State judge(QValidator::State byBase, const QString &text, const QString &prefix,
+                        const QString &suffix, const QLocale &locale)
+{
+    const QString group = locale.groupSeparator();
+    if (byBase != QValidator::Acceptable || group.isEmpty() || !text.contains(group))
+        return byBase;
+    return isNumber(text, prefix, suffix, locale) ? byBase : QValidator::Intermediate;
 }
 
 double keptFromZero(double value)

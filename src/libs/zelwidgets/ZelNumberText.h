@@ -2,6 +2,7 @@
 
 #include <QLocale>
 #include <QString>
+#include <QValidator>
 
 #include <optional>
 
@@ -33,9 +34,19 @@ QString fromNumber(double value, const Format &format, const QLocale &locale);
 /// point, so it is for fields with decimals; with none, 100 becomes "1".
 QString spinBoxText(double value, int decimals, const QLocale &locale);
 
+/// The text as the locale reads it: locales that put invisible marks of direction around their
+/// signs don't read them back.
+QString readable(QString text, const QLocale &locale);
+/// The same to a text that is being edited; the cursor stays where it was among the digits.
+void makeReadable(QString &text, int &position, const QLocale &locale);
 /// Whether the locale reads the text between prefix and suffix; group separators have to be in
 /// their places.
 bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale);
+
+/// What a field thinks of a text that its base class has judged. The base class drops group
+/// separators wherever they are, so that 1.5 would be 15 in German: such a text is unfinished.
+QValidator::State judge(QValidator::State byBase, const QString &text, const QString &prefix,
+                        const QString &suffix, const QLocale &locale);
 
 /// Below this a number counts as zero where zero is not allowed.
 constexpr double smallestNonZero = 1e-6;

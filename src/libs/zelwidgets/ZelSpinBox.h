@@ -13,7 +13,10 @@ class ZELWIDGETS_EXPORT ZelSpinBox : public QSpinBox
 public:
     explicit ZelSpinBox(QWidget *parent);
 
+    QValidator::State validate(QString &text, int &position) const override;
+    void fixup(QString &text) const override;
+
 protected:
     void wheelEvent(QWheelEvent *event) override;
-    void fixup(QString &text) const override;
+    int valueFromText(const QString &text) const override;
 };
