@@ -8,7 +8,6 @@
 #include <ZelWidgets/ZelToolButton>
 
 #include <QDebug>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -133,8 +132,6 @@ ZelScaleWidget::ZelScaleWidget(QString const &text, QWidget *parent)
     layout->setSpacing(0);
     layout->addWidget(d_->xyRow);
     layout->addWidget(d_->openForm);
-    d_->closedLabel->installEventFilter(this);
-    d_->openLabel->installEventFilter(this);
     connect(d_->closedLabel, &ZelFlipLabel::clicked, this, &ZelScaleWidget::widgetOpen);
     connect(d_->openLabel, &ZelFlipLabel::clicked, this, &ZelScaleWidget::widgetClose);
     connect(d_->xyRow, &ZelDoubleSliderEdit::valueUpdated, this, &ZelScaleWidget::xyUpdated);
@@ -267,16 +264,4 @@ void ZelScaleWidget::widgetOpen()
 void ZelScaleWidget::widgetClose()
 {
     open(false);
-}
-
-bool ZelScaleWidget::eventFilter(QObject *watched, QEvent *event)
-{
-    // The second of two quick clicks on the caption flips back; it is no double click, which would
-    // reset the number of a row.
-    if (event->type() == QEvent::MouseButtonDblClick &&
-        (watched == d_->closedLabel || watched == d_->openLabel)) {
-        open(!d_->isOpen);
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }

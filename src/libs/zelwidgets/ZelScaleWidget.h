@@ -57,9 +57,6 @@ protected Q_SLOTS:
     void widgetOpen();
     void widgetClose();
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     std::unique_ptr<ZelScaleWidgetPrivate> d_;
 };

@@ -26,11 +26,11 @@ ZelSizeEdit::ZelSizeEdit(QWidget *parent)
     : QWidget(parent)
     , lockButton_(new ZelToolButton(ZelToolButton::Flat, this))
     , resetButton_(new ZelToolButton(ZelToolButton::Flat, this))
-    , widthEdit_(addRow(tr("Width"), &width_))
-    , heightEdit_(addRow(tr("Height"), &height_))
-    , sizeEdit_(addRow(tr("Size"), &size_))
     , toolBar_(makeToolBar())
 {
+    widthEdit_ = addRow(tr("Width"), &width_);
+    heightEdit_ = addRow(tr("Height"), &height_);
+    sizeEdit_ = addRow(tr("Size"), &size_);
     sizeEdit_->hide();
     auto *rows = new QVBoxLayout;
     rows->addWidget(widthEdit_);

@@ -61,9 +61,9 @@ private:
 
     ZelToolButton *lockButton_;
     ZelToolButton *resetButton_;
-    ZelDoubleSliderEdit *widthEdit_;
-    ZelDoubleSliderEdit *heightEdit_;
-    ZelDoubleSliderEdit *sizeEdit_;
+    ZelDoubleSliderEdit *widthEdit_ = nullptr;
+    ZelDoubleSliderEdit *heightEdit_ = nullptr;
+    ZelDoubleSliderEdit *sizeEdit_ = nullptr;
     float width_ = 1;
     float height_ = 1;
     float size_ = 1;
