@@ -547,8 +547,8 @@ void TestNumberOthers::sizeRowStandsForBoth()
     edit.setSizeOnlyText(QStringLiteral("Edge"));
     QSignalSpy changed(&edit, &ZelSizeEdit::sizeChanged);
     for (ZelDoubleSliderEdit *row : rowsOf(&edit))
-        QCOMPARE(row->isHidden(), row != rowOf(&edit, QStringLiteral("Size")));
-    enter(fieldOf(rowOf(&edit, QStringLiteral("Size"))), QStringLiteral("8"));
+        QCOMPARE(row->isHidden(), row != rowOf(&edit, QStringLiteral("Edge")));
+    enter(fieldOf(rowOf(&edit, QStringLiteral("Edge"))), QStringLiteral("8"));
     QCOMPARE(changed, QList<QVariantList>({{8.0F, 6.0F}}));
     edit.setShowSizeOnly(false);
     QCOMPARE(fieldOf(rowOf(&edit, QStringLiteral("Width")))->text(), QStringLiteral("8"));

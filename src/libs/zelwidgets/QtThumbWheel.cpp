@@ -59,6 +59,7 @@ namespace {
 
 constexpr qreal rounding = 3;
 constexpr qreal cogWidth = 1.5;
+constexpr int endDarkness = 135;
 
 class AccessibleWheel : public ZelAccessibleValue
 {
@@ -391,28 +392,26 @@ void QtThumbWheel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // The drum turns its edge away at both ends.
     const QColor face = palette().color(backgroundRole());
-    const QColor shade = palette().color(foregroundRole());
-    const auto mixed = [&](double part) {
-        return QColor::fromRgbF(
-            static_cast<float>(face.redF() * (1 - part) + shade.redF() * part),
-            static_cast<float>(face.greenF() * (1 - part) + shade.greenF() * part),
-            static_cast<float>(face.blueF() * (1 - part) + shade.blueF() * part));
+    QColor shade = palette().color(foregroundRole());
+    const auto faded = [&shade](double strength) {
+        shade.setAlphaF(static_cast<float>(strength));
+        return shade;
     };
+    // The drum turns away from the viewer at both ends.
     QLinearGradient drum({0, 0}, d_->isHorizontal() ? QPointF(width(), 0) : QPointF(0, height()));
-    drum.setColorAt(0, mixed(0.25));
+    drum.setColorAt(0, face.darker(endDarkness));
     drum.setColorAt(0.5, face);
-    drum.setColorAt(1, mixed(0.25));
-    painter.setPen(mixed(0.3));
+    drum.setColorAt(1, face.darker(endDarkness));
+    painter.setPen(faded(0.3));
     painter.setBrush(drum);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), rounding, rounding);
 
     painter.setPen(Qt::NoPen);
-    const double strength = isEnabled() ? 0.75 : 0.3;
+    const double strength = isEnabled() ? 0.75 : 0.5;
     const double angle = Geometry::angle(d_->place, d_->ratio, d_->length());
     for (const Geometry::Cog &cog : Geometry::cogs(d_->length(), d_->cogCount, angle)) {
-        painter.setBrush(mixed(strength * (0.25 + 0.75 * cog.facing)));
+        painter.setBrush(faded(strength * (0.25 + 0.75 * cog.facing)));
         painter.drawRect(d_->cogRect(cog));
     }
     if (hasFocus())

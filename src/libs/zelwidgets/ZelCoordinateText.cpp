@@ -62,10 +62,11 @@ QString ZelCoordinateText::normalized(const QString &text, const QLocale &locale
 
 QRegularExpression ZelCoordinateText::expression()
 {
-    // The largest number has no decimals but zeros; numbers near zero may have an exponent.
-    const QString number =
-        QStringLiteral("((?:%1)(?:[.,]0{1,8})?|(?:%2)(?:[.,][0-9]{1,8})?(?:e-[0-9]{1,2})?)"
-                       " *+(?:\u00B0 *+)?");
+    // The largest number has no decimals but zeros. Of numbers near zero write() gives more than
+    // eight decimals, or an exponent.
+    const QString number = QStringLiteral("((?:%1)(?:[.,]0{1,8})?"
+                                          "|(?:%2)(?:[.,][0-9]{1,8})?(?:e-[0-9]{1,2})?"
+                                          "|0[.,]0{1,3}[0-9]{1,6}) *+(?:\u00B0 *+)?");
     const QString latitude = number.arg(QStringLiteral("90"), QStringLiteral("[0-8]?[0-9]"));
     const QString longitude =
         number.arg(QStringLiteral("180"), QStringLiteral("1[0-7][0-9]|0?[0-9]{1,2}"));

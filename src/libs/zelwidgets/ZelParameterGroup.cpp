@@ -2,7 +2,9 @@
 
 #include <ZelWidgets/ZelFlipLabel>
 
+#include <QEvent>
 #include <QMetaMethod>
+#include <QStyle>
 #include <QVBoxLayout>
 
 ZelParameterGroup::ZelParameterGroup(QString const &text, QWidget *parent)
@@ -15,6 +17,7 @@ ZelParameterGroup::ZelParameterGroup(QString const &text, QWidget *parent)
 {
     groupLayout_->setContentsMargins(0, 0, 0, 0);
     groupLayout_->addWidget(label_);
+    indentDetails();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -47,6 +50,22 @@ void ZelParameterGroup::setOpen(bool open)
 void ZelParameterGroup::widgetFlip()
 {
     setOpen(detailWidget_->isHidden());
+}
+
+void ZelParameterGroup::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::StyleChange)
+        indentDetails();
+}
+
+void ZelParameterGroup::indentDetails()
+{
+    const int indent = style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+    const int bottom = style()->pixelMetric(QStyle::PM_LayoutBottomMargin);
+    // Flush with the group at the side of the fields.
+    detailLayout_->setContentsMargins(isRightToLeft() ? 0 : indent, 0, isRightToLeft() ? indent : 0,
+                                      bottom);
 }
 
 void ZelParameterGroup::relayValueUpdated(QWidget *widget)

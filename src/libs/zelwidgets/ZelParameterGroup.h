@@ -35,7 +35,11 @@ Q_SIGNALS:
 protected Q_SLOTS:
     void widgetFlip();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void indentDetails();
     void relayValueUpdated(QWidget *widget);
 
     QWidget *groupWidget_;

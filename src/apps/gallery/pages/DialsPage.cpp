@@ -141,8 +141,8 @@ void DialsPage::addGroups()
     watch(group, &ZelParameterGroup::valueUpdated, QStringLiteral("valueUpdated"));
 
     auto *metric = new ZelMetricWidget(ZelFontMetrics::EditorHeight, this);
-    metric->setAutoFillBackground(true);
-    metric->setBackgroundRole(QPalette::Base);
-    metric->setChildWidget(new QLabel(tr("As high as a field")), true);
+    auto *content = new QLabel(tr("As high as a field"));
+    content->setFrameShape(QFrame::Box);
+    metric->setChildWidget(content);
     row->addWidget(metric, 1, Qt::AlignTop);
 }
