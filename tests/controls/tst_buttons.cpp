@@ -88,9 +88,7 @@ private Q_SLOTS:
     void initTestCase();
     void aScaledIconStandsInAFullCell();
     void textAtTheBottomLeavesTheRestToTheIcon();
-    void ofFixedPicturesTheLargestThatFitsIsTaken_data();
     void ofFixedPicturesTheLargestThatFitsIsTaken();
-    void theIconAloneIsPlaced_data();
     void theIconAloneIsPlaced();
     void aDisabledPictureIsNotGreyedTwice();
     void sizeHintsFollowIconTextAndMenu();
@@ -154,57 +152,42 @@ void ButtonsTest::textAtTheBottomLeavesTheRestToTheIcon()
     button.grab();
 }
 
-void ButtonsTest::ofFixedPicturesTheLargestThatFitsIsTaken_data()
-{
-    QTest::addColumn<int>("side");
-    QTest::addColumn<int>("color");
-    QTest::newRow("exact") << 16 << int(Qt::green);
-    QTest::newRow("between") << 31 << int(Qt::green);
-    QTest::newRow("above all") << 50 << int(Qt::blue);
-    QTest::newRow("smallest") << 9 << int(Qt::red);
-}
-
 void ButtonsTest::ofFixedPicturesTheLargestThatFitsIsTaken()
 {
-    QFETCH(int, side);
-    QFETCH(int, color);
     QIcon icon;
     icon.addPixmap(filled(QSize(8, 8), Qt::red));
     icon.addPixmap(filled(QSize(32, 32), Qt::blue));
     icon.addPixmap(filled(QSize(16, 16), Qt::green));
-    ZelToolButton button;
-    button.setIcon(icon);
-    button.setIconSize(QSize(side, side));
-    button.setIconOnlyMode(true);
-    button.resize(60, 60);
-    QVERIFY(!button.hasSvgIcon());
-    QCOMPARE(boundsOf(&button, Qt::GlobalColor(color)).size(), QSize(side, side));
-}
-
-void ButtonsTest::theIconAloneIsPlaced_data()
-{
-    QTest::addColumn<bool>("expand");
-    QTest::addColumn<bool>("squared");
-    QTest::addColumn<QRect>("place");
-    QTest::newRow("icon size, squared") << false << true << QRect(25, 15, 10, 10);
-    QTest::newRow("icon size") << false << false << QRect(20, 15, 20, 10);
-    QTest::newRow("whole, squared") << true << true << QRect(10, 0, 40, 40);
-    QTest::newRow("whole") << true << false << QRect(0, 0, 60, 40);
+    const std::pair<int, Qt::GlobalColor> rows[] = {
+        {16, Qt::green}, {31, Qt::green}, {50, Qt::blue}, {9, Qt::red}};
+    for (const auto &[side, color] : rows) {
+        ZelToolButton button;
+        button.setIcon(icon);
+        button.setIconSize(QSize(side, side));
+        button.setIconOnlyMode(true);
+        button.resize(60, 60);
+        QVERIFY(!button.hasSvgIcon());
+        QCOMPARE(boundsOf(&button, color).size(), QSize(side, side));
+    }
 }
 
 void ButtonsTest::theIconAloneIsPlaced()
 {
-    QFETCH(bool, expand);
-    QFETCH(bool, squared);
-    ZelToolButton button;
-    button.setIcon(fillingIcon());
-    button.setIconSize(QSize(20, 10));
-    button.setIconOnlyMode(true);
-    button.setExpandIfIconOnly(expand);
-    button.setImageSquared(squared);
-    button.resize(60, 40);
-    QTEST(boundsOf(&button, Qt::red), "place");
-    QCOMPARE(button.sizeHint(), QSize(20, 10));
+    const std::tuple<bool, bool, QRect> rows[] = {{false, true, {25, 15, 10, 10}},
+                                                  {false, false, {20, 15, 20, 10}},
+                                                  {true, true, {10, 0, 40, 40}},
+                                                  {true, false, {0, 0, 60, 40}}};
+    for (const auto &[expand, squared, place] : rows) {
+        ZelToolButton button;
+        button.setIcon(fillingIcon());
+        button.setIconSize(QSize(20, 10));
+        button.setIconOnlyMode(true);
+        button.setExpandIfIconOnly(expand);
+        button.setImageSquared(squared);
+        button.resize(60, 40);
+        QCOMPARE(boundsOf(&button, Qt::red), place);
+        QCOMPARE(button.sizeHint(), QSize(20, 10));
+    }
 }
 
 void ButtonsTest::aDisabledPictureIsNotGreyedTwice()
@@ -313,6 +296,17 @@ void ButtonsTest::aDelayedMenuOpensByKeys()
         menu.close();
     });
     QTest::keyClick(&button, Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(opened);
+
+    ZelMenuButton push;
+    push.addAction(QStringLiteral("Entry"));
+    push.show();
+    opened = false;
+    QTimer::singleShot(0, push.menu(), [&push, &opened] {
+        opened = push.menu()->isVisible();
+        push.menu()->close();
+    });
+    QTest::keyClick(&push, Qt::Key_Down, Qt::AltModifier);
     QVERIFY(opened);
 }
 

@@ -94,7 +94,6 @@ private Q_SLOTS:
     void aClickableFieldGivesItsCursorBack();
     void aClickableFieldIsPressedByKeyAndAccessibility();
     void theSearchFieldClearsAndKeepsRoomForItsButtons();
-    void namesAndPathsAreValidated_data();
     void namesAndPathsAreValidated();
     void aCompletedFolderIsTaken();
     void theFileNameIsShownWithItsPath();
@@ -186,7 +185,12 @@ void TestTexts::aClickOnTheComboTextOpensAndClosesThePopup()
         const QPoint onText(100, 35);
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, onText);
         QTRY_VERIFY(combo.view()->isVisible());
+        // Not every platform gives the press that closes a pop-up to the window below; what keeps
+        // those that do from it is seen on all.
+        const QWidget *popup = combo.view()->window();
+        QVERIFY(!popup->testAttribute(Qt::WA_NoMouseReplay));
         QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, onText);
+        QVERIFY(popup->testAttribute(Qt::WA_NoMouseReplay));
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, onText);
         QTRY_VERIFY(!combo.view()->isVisible());
         // A press that is given to the window below comes as a new event.
@@ -276,35 +280,28 @@ void TestTexts::theSearchFieldClearsAndKeepsRoomForItsButtons()
     QCOMPARE(shown.count(), 1);
 }
 
-void TestTexts::namesAndPathsAreValidated_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("isFile");
-    QTest::addColumn<bool>("isFolder");
-    QTest::newRow("empty") << QString() << true << true;
-    QTest::newRow("plain") << text("scene 1.png") << true << true;
-    QTest::newRow("slash") << text("a/b") << false << true;
-    QTest::newRow("backslash") << text("a\\b") << false << true;
-    QTest::newRow("drive") << text("C:\\a") << false << true;
-    QTest::newRow("colon first") << text(":a") << false << false;
-    QTest::newRow("colon later") << text("C:a:b") << false << false;
-    for (const char c : {'?', '*', '"', '|', '<', '>'})
-        QTest::newRow(qPrintable(QString(QLatin1Char(c))))
-            << QString(QLatin1Char(c)) << false << false;
-    QTest::newRow("long") << QString(10000, u'a') << true << true;
-}
-
 void TestTexts::namesAndPathsAreValidated()
 {
-    QFETCH(QString, name);
-    QFETCH(bool, isFile);
-    QFETCH(bool, isFolder);
+    struct Row
+    {
+        QString name;
+        bool isFile, isFolder;
+    };
+    QList<Row> rows{{QString(), true, true},       {text("scene 1.png"), true, true},
+                    {text("a/b"), false, true},    {text("a\\b"), false, true},
+                    {text("C:\\a"), false, true},  {text(":a"), false, false},
+                    {text("C:a:b"), false, false}, {QString(10000, u'a'), true, true}};
+    for (const char c : {'?', '*', '"', '|', '<', '>'})
+        rows.append({QString(QLatin1Char(c)), false, false});
     const auto expected = [](bool isValid) {
         return isValid ? QValidator::Acceptable : QValidator::Invalid;
     };
-    int position = 0;
-    QCOMPARE(FileValidator().validate(name, position), expected(isFile));
-    QCOMPARE(DirValidator().validate(name, position), expected(isFolder));
+    for (Row &row : rows) {
+        int position = 0;
+        QVERIFY2(FileValidator().validate(row.name, position) == expected(row.isFile) &&
+                     DirValidator().validate(row.name, position) == expected(row.isFolder),
+                 qPrintable(row.name));
+    }
 }
 
 void TestTexts::aCompletedFolderIsTaken()

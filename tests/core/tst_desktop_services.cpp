@@ -68,10 +68,10 @@ private Q_SLOTS:
     void aServiceThatCameBackIsAskedAgain();
     void withoutAServiceNothingHappens();
     void withoutABusCallsReturnAtOnceAndQuietly();
-    void anotherMeansCanBePutInPlace();
     void theFileManagerIsAskedBeforeTheFolderIsOpened();
 
 private:
+    void offer(const char *path, const char *service, const char *interface);
     void offerScreenSaver();
 
     QProcess daemon_;
@@ -113,13 +113,18 @@ void TestDesktopServices::cleanup()
     TestCase::cleanup();
 }
 
-void TestDesktopServices::offerScreenSaver()
+void TestDesktopServices::offer(const char *path, const char *service, const char *interface)
 {
     QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text("/org/freedesktop/ScreenSaver"),
-                                   text("org.freedesktop.ScreenSaver"), service_.get(),
+    QVERIFY(desktop.registerObject(text(path), text(interface), service_.get(),
                                    QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+    QVERIFY(desktop.registerService(text(service)));
+}
+
+void TestDesktopServices::offerScreenSaver()
+{
+    offer("/org/freedesktop/ScreenSaver", "org.freedesktop.ScreenSaver",
+          "org.freedesktop.ScreenSaver");
 }
 
 void TestDesktopServices::repeatedCallsHoldOneInhibit()
@@ -156,11 +161,8 @@ void TestDesktopServices::aReleaseBeforeTheAnswerGivesTheInhibitBack()
 void TestDesktopServices::withoutAScreenSaverThePowerManagementIsAsked()
 {
     SKIP_WITHOUT_BUS();
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text("/org/freedesktop/PowerManagement/Inhibit"),
-                                   text("org.freedesktop.PowerManagement.Inhibit"), service_.get(),
-                                   QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text("org.freedesktop.PowerManagement")));
+    offer("/org/freedesktop/PowerManagement/Inhibit", "org.freedesktop.PowerManagement",
+          "org.freedesktop.PowerManagement.Inhibit");
     inhibitor_->inhibit();
     QTRY_VERIFY(inhibitor_->isHeld());
     QCOMPARE(service_->held, QList<uint>{101});
@@ -187,11 +189,7 @@ void TestDesktopServices::withoutAServiceNothingHappens()
 {
     SKIP_WITHOUT_BUS();
     inhibitor_->inhibit();
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text("/org/freedesktop/ScreenSaver"),
-                                   text("org.freedesktop.ScreenSaver"), service_.get(),
-                                   QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+    offerScreenSaver();
     // The answers to the first round come before those to the second.
     const auto isHeldAfterAnotherCall = [this] {
         inhibitor_->inhibit();
@@ -214,27 +212,6 @@ void TestDesktopServices::withoutABusCallsReturnAtOnceAndQuietly()
     QVERIFY(!inhibitor.isHeld());
     inhibitor.uninhibit();
     QCOMPARE(messages().messages(QtDebugMsg), QStringList());
-}
-
-void TestDesktopServices::anotherMeansCanBePutInPlace()
-{
-    struct Counting : ZelKeepAwake
-    {
-        explicit Counting(int &calls)
-            : calls(calls)
-        {}
-        void keepAwake() override { ++calls; }
-        void release() override { calls += 10; }
-        int &calls;
-    };
-    int calls = 0;
-    ZelKeepAwake::setInstance(std::make_unique<Counting>(calls));
-    ZelKeepAwake::instance().keepAwake();
-    ZelKeepAwake::instance().release();
-    QCOMPARE(calls, 11);
-    ZelKeepAwake::setInstance(nullptr);
-    ZelKeepAwake::instance().keepAwake();
-    QCOMPARE(calls, 11);
 }
 
 void TestDesktopServices::theFileManagerIsAskedBeforeTheFolderIsOpened()

@@ -39,10 +39,8 @@ class TestDirectedResize : public TestCase
 private Q_SLOTS:
     void theSizeStartsAsTheHintAndIsSetToThePixel();
     void theSizeFollowsTheContent();
-    void draggingChangesTheSizeInItsDirection_data();
     void draggingChangesTheSizeInItsDirection();
-    void theSizeIsNeverBelowZero();
-    void arrowKeysMoveTheHandle();
+    void arrowKeysMoveTheHandleAndItStopsAtZero();
     void theHandleCanBeSeenAndNamed();
     void anotherWidgetReplacesTheFormerOne();
 };
@@ -80,65 +78,47 @@ void TestDirectedResize::theSizeFollowsTheContent()
     QCOMPARE(widget.directedSize(), QWIDGETSIZE_MAX);
 }
 
-void TestDirectedResize::draggingChangesTheSizeInItsDirection_data()
-{
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<Qt::LayoutDirection>("layoutDirection");
-    QTest::addColumn<QPoint>("way");
-    QTest::addColumn<int>("change");
-    QTest::newRow("wider") << Qt::Horizontal << Qt::LeftToRight << QPoint(30, 99) << 30;
-    QTest::newRow("narrower") << Qt::Horizontal << Qt::LeftToRight << QPoint(-30, 0) << -30;
-    QTest::newRow("mirrored") << Qt::Horizontal << Qt::RightToLeft << QPoint(-30, 0) << 30;
-    QTest::newRow("higher") << Qt::Vertical << Qt::RightToLeft << QPoint(99, 30) << 30;
-}
-
 void TestDirectedResize::draggingChangesTheSizeInItsDirection()
 {
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(Qt::LayoutDirection, layoutDirection);
-    QFETCH(QPoint, way);
-    QFETCH(int, change);
-    QWidget window;
-    window.setLayoutDirection(layoutDirection);
-    auto *layout = new QGridLayout(&window);
-    ZelDirectedResizeWidget widget(orientation);
-    widget.setWidget(new HintWidget(QSize(100, 100)));
-    layout->addWidget(&widget, 0, 0);
-    layout->setRowStretch(1, 1);
-    layout->setColumnStretch(1, 1);
-    window.resize(400, 400);
-    window.show();
-    const bool isHorizontal = orientation == Qt::Horizontal;
-    const auto size = [&] {
-        return isHorizontal ? widget.width() : widget.height();
-    };
-    const int before = size();
-    QCOMPARE(before, widget.directedSize());
+    const std::tuple<Qt::Orientation, Qt::LayoutDirection, QPoint, int> rows[] = {
+        {Qt::Horizontal, Qt::LeftToRight, {30, 99}, 30},
+        {Qt::Horizontal, Qt::LeftToRight, {-30, 0}, -30},
+        {Qt::Horizontal, Qt::RightToLeft, {-30, 0}, 30},
+        {Qt::Vertical, Qt::RightToLeft, {99, 30}, 30}};
+    for (const auto &row : rows) {
+        const auto [orientation, layoutDirection, way, change] = row;
+        QWidget window;
+        window.setLayoutDirection(layoutDirection);
+        auto *layout = new QGridLayout(&window);
+        ZelDirectedResizeWidget widget(orientation);
+        widget.setWidget(new HintWidget(QSize(100, 100)));
+        layout->addWidget(&widget, 0, 0);
+        layout->setRowStretch(1, 1);
+        layout->setColumnStretch(1, 1);
+        window.resize(400, 400);
+        window.show();
+        const bool isHorizontal = std::get<0>(row) == Qt::Horizontal;
+        const auto size = [&] {
+            return isHorizontal ? widget.width() : widget.height();
+        };
+        const int before = size();
+        QCOMPARE(before, widget.directedSize());
 
-    QWidget *handle = handleOf(widget);
-    const QPoint from = handle->rect().center();
-    UserInput::press(handle, from);
-    UserInput::move(handle, from + way);
-    QCOMPARE(widget.directedSize(), before + change);
-    QTRY_COMPARE(size(), before + change);
-    UserInput::release(handle, from);
-    UserInput::move(handle, from + way, {}, Qt::NoButton);
-    QCOMPARE(widget.directedSize(), before + change);
-    UserInput::drag(handle, from, from + way, {}, Qt::RightButton, 1);
-    QCOMPARE(widget.directedSize(), before + change);
+        QWidget *handle = handleOf(widget);
+        const QPoint from = handle->rect().center();
+        UserInput::press(handle, from);
+        UserInput::move(handle, from + way);
+        QCOMPARE(widget.directedSize(), before + change);
+        QTRY_COMPARE(size(), before + change);
+        UserInput::release(handle, from);
+        UserInput::move(handle, from + way, {}, Qt::NoButton);
+        QCOMPARE(widget.directedSize(), before + change);
+        UserInput::drag(handle, from, from + way, {}, Qt::RightButton, 1);
+        QCOMPARE(widget.directedSize(), before + change);
+    }
 }
 
-void TestDirectedResize::theSizeIsNeverBelowZero()
-{
-    ZelDirectedResizeWidget widget(Qt::Horizontal);
-    widget.setWidget(new HintWidget(QSize(50, 50)));
-    widget.show();
-    UserInput::drag(handleOf(widget), QPoint(1, 1), QPoint(-5000, 1), {}, Qt::LeftButton, 1);
-    QCOMPARE(widget.directedSize(), 0);
-    QVERIFY(widget.width() > 0);
-}
-
-void TestDirectedResize::arrowKeysMoveTheHandle()
+void TestDirectedResize::arrowKeysMoveTheHandleAndItStopsAtZero()
 {
     ZelDirectedResizeWidget widget(Qt::Horizontal);
     widget.setWidget(new HintWidget(QSize(50, 50)));
@@ -154,6 +134,11 @@ void TestDirectedResize::arrowKeysMoveTheHandle()
     widget.setLayoutDirection(Qt::RightToLeft);
     QTest::keyClick(handle, Qt::Key_Right);
     QCOMPARE(widget.directedSize(), before);
+    // Not below zero.
+    widget.show();
+    UserInput::drag(handle, QPoint(1, 1), QPoint(5000, 1), {}, Qt::LeftButton, 1);
+    QCOMPARE(widget.directedSize(), 0);
+    QVERIFY(widget.width() > 0);
 }
 
 void TestDirectedResize::theHandleCanBeSeenAndNamed()

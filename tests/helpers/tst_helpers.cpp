@@ -69,7 +69,6 @@ private Q_SLOTS:
     void theTimerDoublesAfterItsListenersRan();
     void aTimerMayDieInItsListener();
     void aNewIntervalCountsFromTheLastTimeout();
-    void theCursorFollowsTheModifier_data();
     void theCursorFollowsTheModifier();
     void copyCutAndPasteGoToTheFilterNotToGlobalShortcuts();
     void deleteAloneGoesToTheFilterNotToGlobalShortcuts();
@@ -154,47 +153,32 @@ void TestHelpers::aNewIntervalCountsFromTheLastTimeout()
     QCOMPARE(timer.interval(), 20);
 }
 
-void TestHelpers::theCursorFollowsTheModifier_data()
-{
-    QTest::addColumn<Qt::KeyboardModifier>("modifier");
-    QTest::addColumn<Qt::KeyboardModifiers>("showing");
-    QTest::addColumn<Qt::KeyboardModifiers>("hiding");
-    QTest::newRow("control") << Qt::ControlModifier
-                             << Qt::KeyboardModifiers(Qt::ControlModifier | Qt::ShiftModifier)
-                             << Qt::KeyboardModifiers(Qt::ShiftModifier);
-    QTest::newRow("none") << Qt::NoModifier << Qt::KeyboardModifiers()
-                          << Qt::KeyboardModifiers(Qt::ControlModifier);
-}
-
 void TestHelpers::theCursorFollowsTheModifier()
 {
-    QFETCH(Qt::KeyboardModifier, modifier);
-    QFETCH(Qt::KeyboardModifiers, showing);
-    QFETCH(Qt::KeyboardModifiers, hiding);
+    using Modifiers = Qt::KeyboardModifiers;
+    const std::tuple<Qt::KeyboardModifier, Modifiers, Modifiers> rows[] = {
+        {Qt::ControlModifier, Qt::ControlModifier | Qt::ShiftModifier, Qt::ShiftModifier},
+        {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier}};
     QWindow window;
     window.show();
-    const auto hold = [&window](Qt::KeyboardModifiers modifiers) {
-        QTest::keyPress(&window, Qt::Key_A, modifiers);
-    };
-    hold(hiding);
-    auto state = std::make_unique<ZelCursorState>(Qt::PointingHandCursor, modifier, 1000000);
-    auto *timer = state->findChild<QTimer *>();
-    fire(timer);
-    QVERIFY(!QGuiApplication::overrideCursor());
-    hold(showing);
-    fire(timer);
-    fire(timer);
-    QVERIFY(state->isActive());
-    QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::PointingHandCursor);
-    hold(hiding);
-    fire(timer);
-    QVERIFY(!QGuiApplication::overrideCursor());
-    hold(showing);
-    fire(timer);
-    QVERIFY(QGuiApplication::overrideCursor());
-    state.reset();
-    QVERIFY(!QGuiApplication::overrideCursor());
-    QTest::keyRelease(&window, Qt::Key_A);
+    for (const auto &[modifier, showing, hiding] : rows) {
+        auto state = std::make_unique<ZelCursorState>(Qt::PointingHandCursor, modifier, 1000000);
+        auto *timer = state->findChild<QTimer *>();
+        const auto isShownWith = [&](Modifiers modifiers) {
+            QTest::keyPress(&window, Qt::Key_A, modifiers);
+            fire(timer);
+            return QGuiApplication::overrideCursor() != nullptr;
+        };
+        QVERIFY(!isShownWith(hiding));
+        QVERIFY(isShownWith(showing) && isShownWith(showing));
+        QVERIFY(state->isActive());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::PointingHandCursor);
+        QVERIFY(!isShownWith(hiding));
+        QVERIFY(isShownWith(showing));
+        state.reset();
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QTest::keyRelease(&window, Qt::Key_A);
+    }
 }
 
 void TestHelpers::copyCutAndPasteGoToTheFilterNotToGlobalShortcuts()
@@ -315,6 +299,7 @@ void TestHelpers::preventSleepRepeatsTheRequestUntilItIsStopped()
     second.stop();
     QCOMPARE(calls, QStringLiteral("kkrkrkkr"));
     ZelKeepAwake::setInstance(nullptr);
+    QVERIFY(!dynamic_cast<Recorder *>(&ZelKeepAwake::instance()));
 }
 
 ZEL_TEST_MAIN(TestHelpers)

@@ -28,7 +28,6 @@ class PlacementTest : public TestCase
 
 private Q_SLOTS:
     void initTestCase();
-    void sizeOfAWindowToBeCentred_data();
     void sizeOfAWindowToBeCentred();
     void centresHiddenWindowsByTheirHint();
     void centresOnTheGivenScreenAndCapsTheSize();
@@ -43,45 +42,36 @@ void PlacementTest::initTestCase()
     QCOMPARE(QGuiApplication::screens().size(), 2);
 }
 
-void PlacementTest::sizeOfAWindowToBeCentred_data()
+void PlacementTest::sizeOfAWindowToBeCentred()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("hint");
-    QTest::addColumn<QSize>("minimum");
-    QTest::addColumn<QString>("state"); // v visible, h has a handle, r was resized
-    QTest::addColumn<QSize>("expected");
-
+    struct Row
+    {
+        const char *name;
+        QSize size, hint, minimum;
+        QString state; // v visible, h has a handle, r was resized
+        QSize expected;
+    };
     const QSize none;
     const QSize zero(0, 0);
     const QSize standard(640, 480);
-    QTest::newRow("visible keeps its size")
-        << QSize(300, 200) << QSize(500, 400) << zero << "vhr" << QSize(300, 200);
-    QTest::newRow("hidden takes the hint")
-        << standard << QSize(320, 240) << QSize(330, 10) << "h" << QSize(330, 240);
-    QTest::newRow("never resized takes the hint")
-        << standard << QSize(320, 240) << zero << "" << QSize(320, 240);
-    QTest::newRow("chosen size grows to the hint")
-        << QSize(400, 100) << QSize(320, 240) << zero << "r" << QSize(400, 240);
-    QTest::newRow("empty hint with a handle")
-        << QSize(30, 60) << none << zero << "h" << QSize(100, 60);
-    QTest::newRow("empty hint without a handle")
-        << QSize(30, 20) << none << zero << "" << QSize(100, 50);
-    QTest::newRow("a chosen size that is of no use")
-        << QSize(10, 5) << none << zero << "r" << QSize(100, 50);
-    QTest::newRow("narrow hint") << QSize(10, 10) << QSize(19, 30) << zero << "h" << QSize(100, 50);
-    QTest::newRow("least hint") << QSize(10, 10) << QSize(20, 10) << zero << "h" << QSize(20, 10);
-}
-
-void PlacementTest::sizeOfAWindowToBeCentred()
-{
-    QFETCH(QSize, size);
-    QFETCH(QSize, hint);
-    QFETCH(QSize, minimum);
-    QFETCH(QString, state);
-    QFETCH(QSize, expected);
-    QCOMPARE(ZelPlacementGeometry::sizeToCentre({size, hint, minimum, state.contains(u'v'),
-                                                 state.contains(u'h'), state.contains(u'r')}),
-             expected);
+    const QString h = QStringLiteral("h");
+    const QString r = QStringLiteral("r");
+    const Row rows[] = {
+        {"visible keeps its size", {300, 200}, {500, 400}, zero, QStringLiteral("vhr"), {300, 200}},
+        {"hidden takes the hint", standard, {320, 240}, {330, 10}, h, {330, 240}},
+        {"never resized takes the hint", standard, {320, 240}, zero, {}, {320, 240}},
+        {"chosen size grows to the hint", {400, 100}, {320, 240}, zero, r, {400, 240}},
+        {"empty hint with a handle", {30, 60}, none, zero, h, {100, 60}},
+        {"empty hint without a handle", {30, 20}, none, zero, {}, {100, 50}},
+        {"a chosen size that is of no use", {10, 5}, none, zero, r, {100, 50}},
+        {"narrow hint", {10, 10}, {19, 30}, zero, h, {100, 50}},
+        {"least hint", {10, 10}, {20, 10}, zero, h, {20, 10}}};
+    for (const Row &row : rows) {
+        const QSize size = ZelPlacementGeometry::sizeToCentre(
+            {row.size, row.hint, row.minimum, row.state.contains(u'v'), row.state.contains(u'h'),
+             row.state.contains(u'r')});
+        QVERIFY2(size == row.expected, row.name);
+    }
 }
 
 void PlacementTest::centresHiddenWindowsByTheirHint()

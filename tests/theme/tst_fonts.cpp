@@ -46,7 +46,6 @@ class TestFonts : public TestCase
 private Q_SLOTS:
     void init();
     void cleanup();
-    void theFontSizeSettingIsReadInWholePoints_data();
     void theFontSizeSettingIsReadInWholePoints();
     void theFontSizeSettingIsReadOnceAndStoredAtOnce();
     void theApplicationFontSizeIsAtLeastEight();
@@ -57,7 +56,6 @@ private Q_SLOTS:
     void hintsInFontUnitsFollowTheFontInLayouts();
     void linkColoursOfTheSheetReachThePalette();
     void textPaintersTakeTheirColoursFromTheSheet();
-    void buttonsAreSecondaryAndMediumForTheSheet_data();
     void buttonsAreSecondaryAndMediumForTheSheet();
 
 private:
@@ -81,24 +79,16 @@ void TestFonts::cleanup()
     TestCase::cleanup();
 }
 
-void TestFonts::theFontSizeSettingIsReadInWholePoints_data()
-{
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("points");
-    QTest::newRow("whole") << QVariant(14) << 14;
-    QTest::newRow("truncated") << QVariant(10.7) << 10;
-    QTest::newRow("truncated towards zero") << QVariant(-3.9) << -3;
-    QTest::newRow("text") << QVariant(text("12.9")) << 12;
-    QTest::newRow("no number") << QVariant(text("large")) << -1;
-    QTest::newRow("wrong type") << QVariant(QSize(1, 2)) << -1;
-    QTest::newRow("no int") << QVariant(1e300) << -1;
-}
-
 void TestFonts::theFontSizeSettingIsReadInWholePoints()
 {
-    QFETCH(QVariant, stored);
-    ui().setValue(text("FontSize"), stored);
-    QTEST(ZelFontMetrics::getZelmoraFontSizeSetting(), "points");
+    const std::pair<QVariant, int> rows[] = {
+        {14, 14},          {10.7, 10}, {-3.9, -3}, {text("12.9"), 12}, {text("large"), -1},
+        {QSize(1, 2), -1}, {1e300, -1}};
+    for (const auto &[stored, points] : rows) {
+        forgetFontSize();
+        ui().setValue(text("FontSize"), stored);
+        QCOMPARE(ZelFontMetrics::getZelmoraFontSizeSetting(), points);
+    }
 }
 
 void TestFonts::theFontSizeSettingIsReadOnceAndStoredAtOnce()
@@ -240,37 +230,30 @@ void TestFonts::textPaintersTakeTheirColoursFromTheSheet()
     QCOMPARE(styled.getTextColor(), QColor(255, 0, 0));
 }
 
-void TestFonts::buttonsAreSecondaryAndMediumForTheSheet_data()
-{
-    QTest::addColumn<int>("constructor");
-    QTest::newRow("parent") << 0;
-    QTest::newRow("text") << 1;
-    QTest::newRow("icon and text") << 2;
-}
-
 void TestFonts::buttonsAreSecondaryAndMediumForTheSheet()
 {
-    QFETCH(int, constructor);
     qApp->setStyleSheet(
         text("ZelPushButton[rank=\"Secondary\"][dimension=\"Medium\"] { color: #010203; }"
              "ZelPushButton[rank=\"Primary\"] { color: #040506; }"));
     QWidget parent;
     QPixmap picture(4, 4);
     picture.fill(Qt::red);
-    ZelPushButton *button = constructor == 0   ? new ZelPushButton(&parent)
-                            : constructor == 1 ? new ZelPushButton(text("b"), &parent)
-                                               : new ZelPushButton(picture, text("b"), &parent);
-    QCOMPARE(button->parent(), &parent);
-    QCOMPARE(button->text(), constructor == 0 ? QString() : text("b"));
-    QCOMPARE(button->icon().isNull(), constructor != 2);
-    QCOMPARE(button->property("rank"), QVariant(text("Secondary")));
-    QCOMPARE(button->property("dimension"), QVariant(text("Medium")));
-    button->ensurePolished();
-    QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(1, 2, 3));
-    button->setProperty("rank", text("Primary"));
-    button->style()->unpolish(button);
-    button->style()->polish(button);
-    QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(4, 5, 6));
+    const QList<ZelPushButton *> buttons{new ZelPushButton(&parent),
+                                         new ZelPushButton(text("b"), &parent),
+                                         new ZelPushButton(picture, text("b"), &parent)};
+    for (ZelPushButton *button : buttons) {
+        QCOMPARE(button->parent(), &parent);
+        QCOMPARE(button->text(), button == buttons.first() ? QString() : text("b"));
+        QCOMPARE(button->icon().isNull(), button != buttons.last());
+        QCOMPARE(button->property("rank"), QVariant(text("Secondary")));
+        QCOMPARE(button->property("dimension"), QVariant(text("Medium")));
+        button->ensurePolished();
+        QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(1, 2, 3));
+        button->setProperty("rank", text("Primary"));
+        button->style()->unpolish(button);
+        button->style()->polish(button);
+        QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(4, 5, 6));
+    }
 }
 
 ZEL_TEST_MAIN(TestFonts)

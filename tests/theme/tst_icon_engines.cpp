@@ -32,7 +32,6 @@ private Q_SLOTS:
     void init();
     void filesOfTheTwoSuffixesMakeThemedIcons();
     void thePublishedFactoryIsAsked();
-    void styleSheetsFollowTheTheme_data();
     void styleSheetsFollowTheTheme();
 
 private:
@@ -85,39 +84,27 @@ void IconEnginesTest::thePublishedFactoryIsAsked()
     QCOMPARE(createdEngines, 1);
 }
 
-void IconEnginesTest::styleSheetsFollowTheTheme_data()
-{
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<bool>("redirected");
-    QTest::newRow("image") << QStringLiteral("QLabel { image: url(%1); }") << false;
-    QTest::newRow("icon") << QStringLiteral("QPushButton { icon: url(%1); border: none; }")
-                          << false;
-    QTest::newRow("qproperty-icon")
-        << QStringLiteral("QToolButton { qproperty-icon: url(%1); border: none; }") << false;
-    QTest::newRow("redirect") << QStringLiteral("QLabel { image: url(%1); }") << true;
-}
-
 void IconEnginesTest::styleSheetsFollowTheTheme()
 {
-    QFETCH(QString, rule);
-    QFETCH(bool, redirected);
     HandleSvgInStyle::prepareHandleSvgIcons();
-    qApp->setStyleSheet(rule.arg(redirected ? redirect_ : path_));
     QLabel label;
     QPushButton button;
     QToolButton toolButton;
-    const QList<QWidget *> widgets{&label, &button, &toolButton};
-    QWidget *shown = rule.startsWith(QLatin1String("QLabel"))  ? widgets.at(0)
-                     : rule.startsWith(QLatin1String("QPush")) ? widgets.at(1)
-                                                               : widgets.at(2);
-    shown->resize(16, 16);
-    const auto center = [&]() {
-        return shown->grab().toImage().pixelColor(8, 8);
-    };
-    QCOMPARE(center(), redirected ? QColor(Qt::blue) : QColor(Qt::red));
-    // Nothing but the theme changes: the next paint shows it.
-    loadTheme("#00ff00");
-    QCOMPARE(center(), redirected ? QColor(Qt::blue) : QColor(Qt::green));
+    const std::tuple<const char *, QWidget *, QString> rows[] = {
+        {"QLabel { image: url(%1); }", &label, path_},
+        {"QPushButton { icon: url(%1); border: none; }", &button, path_},
+        {"QToolButton { qproperty-icon: url(%1); border: none; }", &toolButton, path_},
+        {"QLabel { image: url(%1); }", &label, redirect_}};
+    for (const auto &[rule, shown, path] : rows) {
+        loadTheme("#ff0000");
+        qApp->setStyleSheet(QString::fromLatin1(rule).arg(path));
+        shown->resize(16, 16);
+        const bool isPinned = path == redirect_;
+        QCOMPARE(shown->grab().toImage().pixelColor(8, 8), isPinned ? Qt::blue : Qt::red);
+        // Nothing but the theme changes: the next paint shows it.
+        loadTheme("#00ff00");
+        QCOMPARE(shown->grab().toImage().pixelColor(8, 8), isPinned ? Qt::blue : Qt::green);
+    }
     qApp->setStyleSheet(QString());
     qApp->setProperty("CreateIconEngineFunc", QVariant());
 }

@@ -28,6 +28,15 @@ IconColorThemeImpl plainTheme()
                         "swap1": "#222222", "swap2": "#111111", "none": ""}])");
 }
 
+IconColorThemeImpl peculiarTheme()
+{
+    return themeOf(
+        R"json([{"a": "#aa0000", "a_disabled": "red", "b": "#1", "b_hover": "rgba(1,2,3,0.25)",
+             "long": "#0123456789abcdef", "none": "", "odd": "x-->y", "self": "#12",
+             "tag": "!&replace_!0", "e_selected": "#1#1", "at": "@z", "huge": ")json" +
+        QByteArray(600000, 'h') + R"("}])");
+}
+
 } // namespace
 
 class IconThemeTest : public TestCase
@@ -35,18 +44,14 @@ class IconThemeTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void suffixesTellModeAndState_data();
     void suffixesTellModeAndState();
-    void colorsFallBackInOrder_data();
     void colorsFallBackInOrder();
     void keysWithSuffixHoldForAllModes();
     void emptyColorsAndUnknownKeysAreReported();
     void markersReplaceColors_data();
     void markersReplaceColors();
     void themeFilesReplaceTheTables();
-    void badThemeFilesGiveNoColors_data();
     void badThemeFilesGiveNoColors();
-    void preparedDocumentsEqualPlainOnes_data();
     void preparedDocumentsEqualPlainOnes();
     void randomPreparedDocumentsEqualPlainOnes();
 
@@ -56,59 +61,39 @@ private:
                              int state = 1);
 };
 
-void IconThemeTest::suffixesTellModeAndState_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("state");
-    const auto row = [](const char *key, const char *base, QIcon::Mode mode, QIcon::State state) {
-        QTest::newRow(key) << QString::fromLatin1(key) << QString::fromLatin1(base) << int(mode)
-                           << int(state);
-    };
-    row("icon", "icon", QIcon::Normal, QIcon::Off);
-    row("Icon_Active", "icon", QIcon::Normal, QIcon::On);
-    row("icon_inactive", "icon", QIcon::Normal, QIcon::Off);
-    row("icon_active_hover", "icon", QIcon::Active, QIcon::On);
-    row("icon_active_inactive", "icon", QIcon::Normal, QIcon::On);
-    row("icon_hover_normal", "icon", QIcon::Normal, QIcon::Off);
-    row("icon_selected_disabled", "icon", QIcon::Selected, QIcon::Off);
-    row("a_disabled_b", "a_b", QIcon::Disabled, QIcon::Off);
-    // What is left of a removal can make a suffix that is removed later, never an earlier one.
-    row("a_in_hoveractive", "a_inactive", QIcon::Active, QIcon::Off);
-    row("a_hov_activeer", "a", QIcon::Normal, QIcon::On);
-}
-
 void IconThemeTest::suffixesTellModeAndState()
 {
-    QFETCH(QString, key);
-    const ColorEntry entry = ColorEntry::fromKey(key, QStringLiteral("c"));
-    QTEST(ColorKey::baseName(key), "base");
-    QTEST(entry.mode, "mode");
-    QTEST(entry.state, "state");
-}
-
-void IconThemeTest::colorsFallBackInOrder_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("state");
-    QTest::addColumn<QString>("order");
-    // n, a, d, s: normal, active, disabled, selected with the state off; capitals with it on.
-    const auto row = [](const char *name, QIcon::Mode mode, QIcon::State state, const char *order) {
-        QTest::newRow(name) << int(mode) << int(state) << QString::fromLatin1(order);
+    struct Row
+    {
+        const char *key;
+        const char *base;
+        QIcon::Mode mode;
+        QIcon::State state;
     };
-    row("normal off", QIcon::Normal, QIcon::Off, "naNAdsDS");
-    row("active on", QIcon::Active, QIcon::On, "ANanDSds");
-    row("disabled off", QIcon::Disabled, QIcon::Off, "dnaDNAsS");
-    row("selected on", QIcon::Selected, QIcon::On, "SNAsnaDd");
+    const Row rows[] = {
+        {"icon", "icon", QIcon::Normal, QIcon::Off},
+        {"Icon_Active", "icon", QIcon::Normal, QIcon::On},
+        {"icon_inactive", "icon", QIcon::Normal, QIcon::Off},
+        {"icon_active_hover", "icon", QIcon::Active, QIcon::On},
+        {"icon_active_inactive", "icon", QIcon::Normal, QIcon::On},
+        {"icon_hover_normal", "icon", QIcon::Normal, QIcon::Off},
+        {"icon_selected_disabled", "icon", QIcon::Selected, QIcon::Off},
+        {"a_disabled_b", "a_b", QIcon::Disabled, QIcon::Off},
+        // What is left of a removal can make a suffix that is removed later, never an earlier one.
+        {"a_in_hoveractive", "a_inactive", QIcon::Active, QIcon::Off},
+        {"a_hov_activeer", "a", QIcon::Normal, QIcon::On}};
+    for (const Row &row : rows) {
+        const QString key = QString::fromLatin1(row.key);
+        const ColorEntry entry = ColorEntry::fromKey(key, QStringLiteral("c"));
+        QVERIFY2(ColorKey::baseName(key) == QLatin1String(row.base) && entry.mode == row.mode &&
+                     entry.state == row.state,
+                 row.key);
+    }
 }
 
 void IconThemeTest::colorsFallBackInOrder()
 {
-    QFETCH(int, mode);
-    QFETCH(int, state);
-    QFETCH(QString, order);
-    // Take the best match away, one after the other: the next in order must come up.
+    // n, a, d, s: normal, active, disabled, selected with the state off; capitals with it on.
     const QMap<QChar, QString> keys{{u'n', QStringLiteral("k")},
                                     {u'a', QStringLiteral("k_hover")},
                                     {u'd', QStringLiteral("k_disabled")},
@@ -117,12 +102,20 @@ void IconThemeTest::colorsFallBackInOrder()
                                     {u'A', QStringLiteral("k_active_hover")},
                                     {u'D', QStringLiteral("k_active_disabled")},
                                     {u'S', QStringLiteral("k_active_selected")}};
-    for (qsizetype first = 0; first < order.size(); ++first) {
-        QStringList members;
-        for (const QChar letter : QStringView(order).mid(first))
-            members.append(QStringLiteral("\"%1\":\"%2\"").arg(keys.value(letter), letter));
-        const auto theme = themeOf(QStringLiteral("[{%1}]").arg(members.join(u',')).toUtf8());
-        QCOMPARE(color(theme, "k", mode, state), QString(order.at(first)));
+    const std::tuple<QIcon::Mode, QIcon::State, QString> rows[] = {
+        {QIcon::Normal, QIcon::Off, QStringLiteral("naNAdsDS")},
+        {QIcon::Active, QIcon::On, QStringLiteral("ANanDSds")},
+        {QIcon::Disabled, QIcon::Off, QStringLiteral("dnaDNAsS")},
+        {QIcon::Selected, QIcon::On, QStringLiteral("SNAsnaDd")}};
+    for (const auto &[mode, state, order] : rows) {
+        // Take the best match away, one after the other: the next in order must come up.
+        for (qsizetype first = 0; first < order.size(); ++first) {
+            QStringList members;
+            for (const QChar letter : QStringView(order).mid(first))
+                members.append(QStringLiteral("\"%1\":\"%2\"").arg(keys.value(letter), letter));
+            const auto theme = themeOf(QStringLiteral("[{%1}]").arg(members.join(u',')).toUtf8());
+            QCOMPARE(color(theme, "k", mode, state), QString(order.at(first)));
+        }
     }
 }
 
@@ -233,35 +226,31 @@ void IconThemeTest::themeFilesReplaceTheTables()
     QCOMPARE(colorOf(QStringLiteral("m")), QStringLiteral("<!--@#1:m-->"));
 }
 
-void IconThemeTest::badThemeFilesGiveNoColors_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isJson");
-    QTest::newRow("missing") << QByteArray() << false;
-    QTest::newRow("empty") << QByteArray("") << false;
-    QTest::newRow("truncated") << QByteArray(R"([{"k": "one", "l")") << false;
-    QTest::newRow("comment") << QByteArray("[{}] // dark") << false;
-    QTest::newRow("binary") << QByteArray("\x89PNG\x00\xff\xfe\x80[{", 10) << false;
-    QTest::newRow("huge") << QByteArray(10 * 1024 * 1024, '[') << false;
-    QTest::newRow("object") << QByteArray(R"({"k": "one"})") << true;
-    QTest::newRow("empty array") << QByteArray("[]") << true;
-}
-
 void IconThemeTest::badThemeFilesGiveNoColors()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isJson);
+    const std::pair<QByteArray, bool> rows[] = {
+        {QByteArray(), false},
+        {"", false},
+        {R"([{"k": "one", "l")", false},
+        {"[{}] // dark", false},
+        {QByteArray("\x89PNG\x00\xff\xfe\x80[{", 10), false},
+        {QByteArray(10 * 1024 * 1024, '['), false},
+        {R"({"k": "one"})", true},
+        {"[]", true}};
     IconColorTheme *theme = IconColorTheme::instance();
-    theme->buildMap(QStringLiteral(R"([{"k": "former"}])"));
-    if (!isJson) {
-        messages().expect(QtCriticalMsg,
-                          QStringLiteral("IconColorThemeImpl::parseAndBuildMap read empty document "
-                                         "- Likely parse error."));
-        messages().expect(QtCriticalMsg, QStringLiteral("Data: "));
+    for (const auto &[content, isJson] : rows) {
+        theme->buildMap(QStringLiteral(R"([{"k": "former"}])"));
+        QVERIFY(!theme->isNull());
+        if (!isJson) {
+            messages().expect(QtCriticalMsg,
+                              QStringLiteral("IconColorThemeImpl::parseAndBuildMap read empty "
+                                             "document - Likely parse error."));
+            messages().expect(QtCriticalMsg, QStringLiteral("Data: "));
+        }
+        theme->loadThemeFile(content.isNull() ? folder() + QStringLiteral("/missing.json")
+                                              : writeFile(QStringLiteral("t.json"), content));
+        QVERIFY2(theme->isNull(), content.left(20).constData());
     }
-    theme->loadThemeFile(content.isNull() ? folder() + QStringLiteral("/missing.json")
-                                          : writeFile(QStringLiteral("t.json"), content));
-    QVERIFY(theme->isNull());
 }
 
 QStringList IconThemeTest::takeMessages()
@@ -281,44 +270,19 @@ bool IconThemeTest::preparedEqualsPlain(const IconColorThemeImpl &theme, const Q
 }
 
 // Documents in which colours, once they are put in, make or break comments, markers and tags.
-void IconThemeTest::preparedDocumentsEqualPlainOnes_data()
-{
-    QTest::addColumn<QString>("svg");
-    const auto row = [](const char *name, const char *svg) {
-        QTest::newRow(name) << QString::fromLatin1(svg);
-    };
-    row("joined mark", "<!-#1-x<!--@*#1:none-->");
-    row("joined tag", "!#1&replace_!1#12<!--@*#1:none--><!--@*#12:a-->");
-    row("tag in the text", "!&replace_!0 #1<!--@*#1:a-->");
-    row("end of a tag", "#1x<!--@*#1:a--><!--@*0x:b-->");
-    row("part of a tag", "#1<!--@*#1:a--><!--@*place:b-->");
-    row("part of a mark", "#1<!--@*-:a--> - ");
-    row("signs of a marker", "#1<!--@*#1:a--><!--@** :b-->");
-    row("key of a marker", "a #1<!--@*a:b--><!--@*#1:a--><!--@#1:a-->");
-    row("new marker", "#1<!--#1:a--><!--@*#1:at-->");
-    row("new comment", "#1<!--@*#1:odd-->");
-    row("new size in front", "#1 #12 #3<!--@*#1:long--><!--@#12:b--><!--@#3:none-->");
-    row("two of one colour", "#1 #3 #3<!--@#3:self--><!--@#3:none--><!--@#3:a-->");
-    row("beyond the limit", "#1#1#1<!--@*#1:huge-->");
-    row("eleven", "#1#2<!--@*#1:a--><!--@*#2:b--><!--@*:a--><!--@*:a--><!--@*:a--><!--@*:a-->"
-                  "<!--@*:a--><!--@*:a--><!--@*:a--><!--@*:a--><!--@*x:a-->x");
-}
-
-namespace {
-IconColorThemeImpl peculiarTheme()
-{
-    return themeOf(
-        R"json([{"a": "#aa0000", "a_disabled": "red", "b": "#1", "b_hover": "rgba(1,2,3,0.25)",
-             "long": "#0123456789abcdef", "none": "", "odd": "x-->y", "self": "#12",
-             "tag": "!&replace_!0", "e_selected": "#1#1", "at": "@z", "huge": ")json" +
-        QByteArray(600000, 'h') + R"("}])");
-}
-} // namespace
-
 void IconThemeTest::preparedDocumentsEqualPlainOnes()
 {
-    QFETCH(QString, svg);
-    QVERIFY(preparedEqualsPlain(peculiarTheme(), svg));
+    const auto theme = peculiarTheme();
+    for (const char *svg :
+         {"<!-#1-x<!--@*#1:none-->", "!#1&replace_!#1#12<!--@*#1:none--><!--@*#12:a-->",
+          "!&replace_!0 #1<!--@*#1:a-->", "#1x<!--@*#1:a--><!--@*0x:b-->",
+          "#1<!--@*#1:a--><!--@*place:b-->", "#1<!--@*-:a--> - ", "#1<!--@*#1:a--><!--@** :b-->",
+          "a #1<!--@*a:b--><!--@*#1:a--><!--@#1:a-->", "#1<!--#1:a--><!--@*#1:at-->",
+          "#1<!--@*#1:odd-->", "#1 #12 #3<!--@*#1:long--><!--@#12:b--><!--@#3:none-->",
+          "#1 #3 #3<!--@#3:self--><!--@#3:none--><!--@#3:a-->", "#1#1#1<!--@*#1:huge-->",
+          "#1#2<!--@*#1:a--><!--@*#2:b--><!--@*:a--><!--@*:a--><!--@*:a--><!--@*:a-->"
+          "<!--@*:a--><!--@*:a--><!--@*:a--><!--@*:a--><!--@*x:a-->x"})
+        QVERIFY2(preparedEqualsPlain(theme, QString::fromLatin1(svg)), svg);
 }
 
 // Documents are strung together from parts that meet in every way: colours beside marks, colours

@@ -68,14 +68,11 @@ private Q_SLOTS:
     void iconsAreSortedByTheirNames();
     void familiesAreFoundByTheirNames();
     void incompleteFamilies();
-    void redirectsTellModeAndState_data();
     void redirectsTellModeAndState();
     void redirectsArePinned();
-    void badRedirectsGiveNoEngine_data();
     void badRedirectsGiveNoEngine();
     void theFactoryIsPublished();
     void plainIconsRenderTheirText();
-    void overrideColorReplacesPlainColors_data();
     void overrideColorReplacesPlainColors();
 
 private:
@@ -320,34 +317,28 @@ void IconsTest::incompleteFamilies()
     QVERIFY(engine->isNull());
 }
 
-void IconsTest::redirectsTellModeAndState_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("state");
-    const auto row = [](const char *name, const char *text, const char *target, QIcon::Mode mode,
-                        QIcon::State state) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(target) << int(mode)
-                            << int(state);
-    };
-    row("one line", ":/a b.zelsvg", ":/a b.zelsvg", QIcon::Normal, QIcon::Off);
-    row("blank lines", "\r\n\n\t:/a\t\r\n\r\nactive_hover\nselected", ":/a", QIcon::Active,
-        QIcon::On);
-    row("inactive", ":/a\nhover inactive active", ":/a", QIcon::Active, QIcon::Off);
-    row("priority", ":/a\nhover normal disabled selected", ":/a", QIcon::Selected, QIcon::Off);
-    row("normal first", ":/a\nhover normal", ":/a", QIcon::Normal, QIcon::Off);
-    row("capitals", ":/a\nDisabled Active", ":/a", QIcon::Normal, QIcon::Off);
-}
-
 void IconsTest::redirectsTellModeAndState()
 {
-    QFETCH(QString, text);
-    const auto redirect = IconRedirect::parse(text);
-    QVERIFY(redirect);
-    QTEST(redirect->target, "target");
-    QTEST(int(redirect->mode), "mode");
-    QTEST(int(redirect->state), "state");
+    struct Row
+    {
+        const char *text;
+        const char *target;
+        QIcon::Mode mode;
+        QIcon::State state;
+    };
+    const Row rows[] = {
+        {":/a b.zelsvg", ":/a b.zelsvg", QIcon::Normal, QIcon::Off},
+        {"\r\n\n\t:/a\t\r\n\r\nactive_hover\nselected", ":/a", QIcon::Active, QIcon::On},
+        {":/a\nhover inactive active", ":/a", QIcon::Active, QIcon::Off},
+        {":/a\nhover normal disabled selected", ":/a", QIcon::Selected, QIcon::Off},
+        {":/a\nhover normal", ":/a", QIcon::Normal, QIcon::Off},
+        {":/a\nDisabled Active", ":/a", QIcon::Normal, QIcon::Off}};
+    for (const Row &row : rows) {
+        const auto redirect = IconRedirect::parse(QString::fromLatin1(row.text));
+        QVERIFY2(redirect && redirect->target == QLatin1String(row.target) &&
+                     redirect->mode == row.mode && redirect->state == row.state,
+                 row.text);
+    }
     QVERIFY(!IconRedirect::parse(QStringLiteral("\r\n\t\n")));
 }
 
@@ -365,33 +356,22 @@ void IconsTest::redirectsArePinned()
     QCOMPARE(centerOf(engine.get(), QIcon::Disabled, QIcon::Off), QColor(0x21, 0, 0));
 }
 
-void IconsTest::badRedirectsGiveNoEngine_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QtMsgType>("type");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing") << QByteArray() << QtWarningMsg << QStringLiteral("was not found.");
-    QTest::newRow("empty") << QByteArray("") << QtCriticalMsg << QStringLiteral("was invalid.");
-    QTest::newRow("blank") << QByteArray("\r\n\t\n") << QtCriticalMsg
-                           << QStringLiteral("was invalid.");
-    QTest::newRow("dangling") << QByteArray("nowhere.zelsvg\nhover") << QtCriticalMsg
-                              << QStringLiteral(
-                                     " refers to  \"nowhere.zelsvg\" which doesn't exists");
-    QTest::newRow("binary") << QByteArray("\xff\xfe\x80\x01") << QtCriticalMsg
-                            << QStringLiteral("which doesn't exists");
-    QTest::newRow("huge") << QByteArray(10 * 1024 * 1024, 'x') << QtCriticalMsg
-                          << QStringLiteral("which doesn't exists");
-}
-
 void IconsTest::badRedirectsGiveNoEngine()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QtMsgType, type);
-    QFETCH(QString, message);
-    const QString path = content.isNull() ? folder() + QStringLiteral("/missing.zelsvgr")
-                                          : writeFile(QStringLiteral("r.zelsvgr"), content);
-    messages().expect(type, message);
-    QVERIFY(!ZelCombinedIcon::createEngineForZELSVGR(path));
+    const std::tuple<QByteArray, QtMsgType, const char *> rows[] = {
+        {QByteArray(), QtWarningMsg, "was not found."},
+        {"", QtCriticalMsg, "was invalid."},
+        {"\r\n\t\n", QtCriticalMsg, "was invalid."},
+        {"nowhere.zelsvg\nhover", QtCriticalMsg,
+         " refers to  \"nowhere.zelsvg\" which doesn't exists"},
+        {"\xff\xfe\x80\x01", QtCriticalMsg, "which doesn't exists"},
+        {QByteArray(10 * 1024 * 1024, 'x'), QtCriticalMsg, "which doesn't exists"}};
+    for (const auto &[content, type, message] : rows) {
+        const QString path = content.isNull() ? folder() + QStringLiteral("/missing.zelsvgr")
+                                              : writeFile(QStringLiteral("r.zelsvgr"), content);
+        messages().expect(type, QString::fromLatin1(message));
+        QVERIFY(!ZelCombinedIcon::createEngineForZELSVGR(path));
+    }
 }
 
 void IconsTest::theFactoryIsPublished()
@@ -428,34 +408,28 @@ void IconsTest::plainIconsRenderTheirText()
              QColor(0, 0, 0, 0));
 }
 
-void IconsTest::overrideColorReplacesPlainColors_data()
-{
-    QTest::addColumn<QString>("fill");
-    QTest::addColumn<QStringList>("replaced");
-    QTest::newRow("plain") << QStringLiteral("#12ab9f") << QStringList{QStringLiteral("12ab9f")};
-    QTest::newRow("upper case") << QStringLiteral("#12AB9F") << QStringList();
-    QTest::newRow("short") << QStringLiteral("#12a") << QStringList();
-    QTest::newRow("with alpha") << QStringLiteral("#12ab9fff") << QStringList();
-    QTest::newRow("seven digits") << QStringLiteral("#12ab9fF") << QStringList();
-    QTest::newRow("two") << QStringLiteral("#000000 #ffffff")
-                         << QStringList{QStringLiteral("000000"), QStringLiteral("ffffff")};
-    QTest::newRow("cut off") << QStringLiteral("#12ab9") << QStringList();
-}
-
 void IconsTest::overrideColorReplacesPlainColors()
 {
-    QFETCH(QString, fill);
-    QFETCH(QStringList, replaced);
+    const std::pair<const char *, QStringList> rows[] = {
+        {"#12ab9f", {QStringLiteral("12ab9f")}},
+        {"#12AB9F", {}},
+        {"#12a", {}},
+        {"#12ab9fff", {}},
+        {"#12ab9fF", {}},
+        {"#000000 #ffffff", {QStringLiteral("000000"), QStringLiteral("ffffff")}},
+        {"#12ab9", {}}};
     QStringList wanted;
-    for (const QString &digits : std::as_const(replaced)) {
-        wanted.append(
-            QStringLiteral("ZelSvgIcon: Replacing color  \"%1\"  with  \"#0a0b0c\"").arg(digits));
+    for (const auto &[fill, replaced] : rows) {
+        for (const QString &digits : replaced) {
+            wanted.append(QStringLiteral("ZelSvgIcon: Replacing color  \"%1\"  with  \"#0a0b0c\"")
+                              .arg(digits));
+        }
+        ZelSvgIcon icon(QString::fromLatin1(fill));
+        icon.overrideColor(QStringLiteral("#0a0b0c"));
+        QVERIFY2(messages().messages(QtDebugMsg) == wanted, fill);
     }
-    ZelSvgIcon icon(fill);
-    icon.overrideColor(QStringLiteral("#0a0b0c"));
-    QCOMPARE(messages().messages(QtDebugMsg), wanted);
     messages().expect(QtWarningMsg, QStringLiteral("not a color"));
-    icon.overrideColor(QStringLiteral("#0a0"));
+    ZelSvgIcon(QString()).overrideColor(QStringLiteral("#0a0"));
 }
 
 ZEL_TEST_MAIN(IconsTest)

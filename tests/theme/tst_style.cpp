@@ -165,7 +165,6 @@ private Q_SLOTS:
     void menuItemsReserveRoomForIcons();
     void spinBoxesOnDenseScreens();
     void rightArrowFollowsTheTheme();
-    void separatorsOfToolBars_data();
     void separatorsOfToolBars();
     void forwardersForwardEverything();
     void forwardersOutliveTheirBase();
@@ -307,43 +306,36 @@ void StyleTest::rightArrowFollowsTheTheme()
     QCOMPARE(base_->drawnRect, option.rect);
 }
 
-void StyleTest::separatorsOfToolBars_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<double>("ratio");
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QRect>("line");
-    QTest::newRow("tall, dark") << QSize(6, 20) << 1.0 << true << QRect(3, 0, 1, 20);
-    QTest::newRow("wide, light") << QSize(20, 7) << 1.0 << false << QRect(0, 3, 20, 1);
-    QTest::newRow("dense") << QSize(6, 20) << 2.0 << true << QRect(5, 0, 2, 40);
-}
-
 void StyleTest::separatorsOfToolBars()
 {
-    QFETCH(QSize, size);
-    QFETCH(double, ratio);
-    QFETCH(bool, dark);
-    QFETCH(QRect, line);
-    DenseWidget widget;
-    widget.ratio = ratio;
-    QPalette palette;
-    palette.setColor(QPalette::Window, Qt::blue);
-    widget.setPalette(palette);
-    ZelGlobalIconCache::setDarkTheme(dark);
-    QStyleOption option;
-    option.rect = QRect(QPoint(0, 0), size);
-    QImage image((QSizeF(size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    QImage wanted = image;
+    struct Row
     {
-        QPainter painter(&image);
-        style_->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &option, &painter, &widget);
+        QSize size;
+        double ratio;
+        bool dark;
+        QRect line;
+    };
+    for (const Row &row :
+         {Row{{6, 20}, 1, true, {3, 0, 1, 20}}, Row{{20, 7}, 1, false, {0, 3, 20, 1}},
+          Row{{6, 20}, 2, true, {5, 0, 2, 40}}}) {
+        DenseWidget widget;
+        widget.ratio = row.ratio;
+        widget.setPalette(QPalette(Qt::black, Qt::blue));
+        ZelGlobalIconCache::setDarkTheme(row.dark);
+        QStyleOption option;
+        option.rect = QRect(QPoint(0, 0), row.size);
+        QImage image((QSizeF(row.size) * row.ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+        QImage wanted = image;
+        image.setDevicePixelRatio(row.ratio);
+        {
+            QPainter painter(&image);
+            style_->drawPrimitive(QStyle::PE_IndicatorToolBarSeparator, &option, &painter, &widget);
+        }
+        wanted.fill(Qt::blue);
+        QPainter(&wanted).fillRect(row.line, row.dark ? QColor(0, 0, 0) : QColor(224, 224, 224));
+        image.setDevicePixelRatio(1);
+        QCOMPARE(image, wanted);
     }
-    wanted.setDevicePixelRatio(1);
-    wanted.fill(Qt::blue);
-    QPainter(&wanted).fillRect(line, dark ? QColor(0, 0, 0) : QColor(224, 224, 224));
-    image.setDevicePixelRatio(1);
-    QCOMPARE(image, wanted);
 }
 
 void StyleTest::forwardersForwardEverything()

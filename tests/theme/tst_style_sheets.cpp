@@ -80,7 +80,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void substitutes_data();
     void substitutes();
     void substitutesAsIfInPlace();
     void substitutesMarkedKeysAsOneAfterTheOther();
@@ -89,7 +88,6 @@ private Q_SLOTS:
     void exchangesTheFontRule();
 
     void makesTheSheetOfATheme();
-    void keepsThemesBeforeAFault_data();
     void keepsThemesBeforeAFault();
     void badFiles_data();
     void badFiles();
@@ -99,7 +97,6 @@ private Q_SLOTS:
     void remembersTheChoice();
     void themeNameDecidesAboutIcons();
 
-    void locatesErrors_data();
     void locatesErrors();
     void acceptsAWholeSheet();
     void showsTheErroneousLines_data();
@@ -124,32 +121,25 @@ void StyleSheetsTest::cleanup()
     TestCase::cleanup();
 }
 
-void StyleSheetsTest::substitutes_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const char *text, const char *expected) {
-        QTest::newRow(name) << QString::fromLatin1(text) << QString::fromLatin1(expected);
-    };
-    row("semicolon and line feed", "color: key;\n", "color: VALUES;\n");
-    row("hyphen and letter", "key-x;", "key-x;");
-    row("hyphen and blank", "key- ;", "VALUES- ;");
-    row("two letters", "keyed;", "keyed;");
-    row("one letter", "keys;", "VALUESs;");
-    row("digit and underscore second", "key;1 key;_", "key;1 key;_");
-    row("at the end", "a key", "a VALUES");
-    row("one before the end", "a key;", "a VALUES;");
-    row("beside each other", "key, key; ", "VALUES, VALUES; ");
-    row("no key at all", "color: red;", "color: red;");
-    row("empty", "", "");
-    row("letter outside of Latin 1", "key;\xe4", "key;\xe4");
-}
-
 void StyleSheetsTest::substitutes()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    QCOMPARE(ZelStylePalette::substitute(text, {{"", "nothing"}, {"key", "VALUES"}}), expected);
+    const std::pair<const char *, const char *> rows[] = {{"color: key;\n", "color: VALUES;\n"},
+                                                          {"key-x;", "key-x;"},
+                                                          {"key- ;", "VALUES- ;"},
+                                                          {"keyed;", "keyed;"},
+                                                          {"keys;", "VALUESs;"},
+                                                          {"key;1 key;_", "key;1 key;_"},
+                                                          {"a key", "a VALUES"},
+                                                          {"a key;", "a VALUES;"},
+                                                          {"key, key; ", "VALUES, VALUES; "},
+                                                          {"color: red;", "color: red;"},
+                                                          {"", ""},
+                                                          {"key;\xe4", "key;\xe4"}};
+    for (const auto &[text, expected] : rows) {
+        QCOMPARE(ZelStylePalette::substitute(QString::fromLatin1(text),
+                                             {{"", "nothing"}, {"key", "VALUES"}}),
+                 QString::fromLatin1(expected));
+    }
 }
 
 void StyleSheetsTest::substitutesAsIfInPlace()
@@ -264,32 +254,26 @@ void StyleSheetsTest::makesTheSheetOfATheme()
     QVERIFY(unknown.contains(QStringLiteral("color: @text@ ;")));
 }
 
-void StyleSheetsTest::keepsThemesBeforeAFault_data()
-{
-    QTest::addColumn<QString>("palette");
-    QTest::addColumn<QString>("color");
-    const auto row = [](const char *name, const char *palette, const char *color) {
-        QTest::newRow(name) << QString::fromLatin1(palette) << QString::fromLatin1(color);
-    };
-    row("later theme with a number", R"({"Dark": {"@c@": "red"}, "Light": {"@c@": 1}})", "red");
-    row("earlier theme with a number", R"({"Apple": {"@c@": 1}, "Dark": {"@c@": "red"}})", "@c@");
-    row("theme that is a list", R"({"Dark": ["@c@", "red"]})", "@c@");
-    row("list of themes", R"([{"@c@": "red"}])", "@c@");
-    row("torn", R"({"Dark": {"@c@": "red"}, "Li)", "@c@");
-    row("behind it something else", R"({"Dark": {"@c@": "red"}} {})", "@c@");
-    row("empty", "", "@c@");
-}
-
 void StyleSheetsTest::keepsThemesBeforeAFault()
 {
-    QFETCH(QString, palette);
-    QFETCH(QString, color);
-    messages().expect(QtCriticalMsg,
-                      QRegularExpression(QStringLiteral(
-                          "^Error in JSON Color Palette in stylesheet:  \\[json\\.exception")));
-    QCOMPARE(ZelStyleSheets::parseFullStyleSheet(
-                 dark, withPalette(palette, QStringLiteral("A { color: @c@ ; }"))),
-             fontRule + QStringLiteral("\nA { color: %1 ; }").arg(color));
+    const std::pair<const char *, const char *> rows[] = {
+        {R"({"Dark": {"@c@": "red"}, "Light": {"@c@": 1}})", "red"},
+        {R"({"Apple": {"@c@": 1}, "Dark": {"@c@": "red"}})", "@c@"},
+        {R"({"Dark": ["@c@", "red"]})", "@c@"},
+        {R"([{"@c@": "red"}])", "@c@"},
+        {R"({"Dark": {"@c@": "red"}, "Li)", "@c@"},
+        {R"({"Dark": {"@c@": "red"}} {})", "@c@"},
+        {"", "@c@"}};
+    for (const auto &[palette, color] : rows) {
+        messages().expect(QtCriticalMsg,
+                          QRegularExpression(QStringLiteral(
+                              "^Error in JSON Color Palette in stylesheet:  \\[json\\.exception")));
+        const QString sheet = ZelStyleSheets::parseFullStyleSheet(
+            dark, withPalette(QString::fromLatin1(palette), QStringLiteral("A { color: @c@ ; }")));
+        QVERIFY2(sheet ==
+                     fontRule + QStringLiteral("\nA { color: %1 ; }").arg(QLatin1String(color)),
+                 palette);
+    }
 }
 
 void StyleSheetsTest::badFiles_data()
@@ -386,35 +370,28 @@ void StyleSheetsTest::themeNameDecidesAboutIcons()
     }
 }
 
-void StyleSheetsTest::locatesErrors_data()
-{
-    QTest::addColumn<QString>("sheet");
-    QTest::addColumn<int>("badLine");
-    QTest::addColumn<int>("lastGood");
-    QTest::addColumn<int>("error");
-    const QString sheet = QStringLiteral("f\n\na\nb\r\n\r\nc\n\nd\ne");
-    QTest::newRow("in the first rule") << sheet << 0 << 0 << 1;
-    QTest::newRow("in a middle rule") << sheet << 3 << 1 << 4;
-    QTest::newRow("behind the last blank line") << sheet << 8 << 6 << 9;
-    QTest::newRow("no blank line") << QStringLiteral("a\nb\nc") << 1 << 0 << 3;
-}
-
 void StyleSheetsTest::locatesErrors()
 {
-    QFETCH(QString, sheet);
-    QFETCH(int, badLine);
-    QFETCH(int, lastGood);
-    QFETCH(int, error);
-    QStringList lines = sheet.split(QLatin1Char('\n'));
-    const auto place =
-        StyleSheetErrorLocator::locate(lines, [badLine](const QString &beginning, int line) {
-            const bool hasProbe =
-                beginning.endsWith(QStringLiteral("{qProperty-errorLine: %1;} ").arg(line));
-            return hasProbe && !beginning.contains(QLatin1Char('\n')) && line < badLine;
-        });
-    QCOMPARE(place.lastGoodLine, lastGood);
-    QCOMPARE(place.errorLine, error);
-    QCOMPARE(lines.size(), sheet.count(QLatin1Char('\n')) + 1);
+    const QString sheet = QStringLiteral("f\n\na\nb\r\n\r\nc\n\nd\ne");
+    struct Row
+    {
+        QString sheet;
+        int badLine, lastGood, error;
+    };
+    // In the first rule, in a middle one, behind the last blank line, without a blank line.
+    for (const Row &row : {Row{sheet, 0, 0, 1}, Row{sheet, 3, 1, 4}, Row{sheet, 8, 6, 9},
+                           Row{QStringLiteral("a\nb\nc"), 1, 0, 3}}) {
+        QStringList lines = row.sheet.split(QLatin1Char('\n'));
+        const auto place =
+            StyleSheetErrorLocator::locate(lines, [&row](const QString &beginning, int line) {
+                const bool hasProbe =
+                    beginning.endsWith(QStringLiteral("{qProperty-errorLine: %1;} ").arg(line));
+                return hasProbe && !beginning.contains(QLatin1Char('\n')) && line < row.badLine;
+            });
+        QCOMPARE(place.lastGoodLine, row.lastGood);
+        QCOMPARE(place.errorLine, row.error);
+        QCOMPARE(lines.size(), row.sheet.count(QLatin1Char('\n')) + 1);
+    }
 }
 
 void StyleSheetsTest::acceptsAWholeSheet()

@@ -1,5 +1,7 @@
 #include "GalleryApplication.h"
 
+#include "IconSizeStyle.h"
+
 #include <ZelWidgets/HandleSvgInStyle>
 #include <ZelWidgets/ZelFontMetrics>
 #include <ZelWidgets/ZelResources>
@@ -29,13 +31,25 @@ QString storedTheme()
 GalleryApplication::GalleryApplication(const QString &theme, QObject *parent)
     : QObject(parent)
     , theme_(theme.isEmpty() ? storedTheme() : theme)
+    , systemFont_(QApplication::font())
 {
     zelmorawidgets_init_resources();
     HandleSvgInStyle::prepareHandleSvgIcons();
-    QApplication::setStyle(new ZelmoraStyle(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ZelmoraStyle(new IconSizeStyle(QStringLiteral("Fusion"))));
+    updateApplicationFont();
     if (!ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), false))
         qCritical() << "The gallery has no style file";
     updateToolTipFont();
+}
+
+void GalleryApplication::updateApplicationFont()
+{
+    // The sheet's rule reaches the widgets. The units of its sub-controls and the sizes of the
+    // icons go by this font.
+    QFont font = systemFont_;
+    if (fontSize() > 0)
+        font.setPointSize(ZelFontMetrics::adjustFontSize(fontSize()));
+    QApplication::setFont(font);
 }
 
 void GalleryApplication::updateToolTipFont()
@@ -61,6 +75,7 @@ void GalleryApplication::setFontSize(int points)
     if (points == fontSize())
         return;
     ZelFontMetrics::setZelmoraFontSizeSetting(points);
+    updateApplicationFont();
     ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(theme_, QString(), true);
     updateToolTipFont();
     Q_EMIT fontSizeChanged(points);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QObject>
 #include <QString>
 
@@ -26,7 +27,9 @@ Q_SIGNALS:
     void fontSizeChanged(int points);
 
 private:
+    void updateApplicationFont();
     static void updateToolTipFont();
 
     QString theme_;
+    const QFont systemFont_;
 };

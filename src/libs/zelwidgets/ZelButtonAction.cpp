@@ -2,16 +2,17 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QPainter>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QStyleOptionToolButton>
+#include <QStyleOptionMenuItem>
 #include <QToolBar>
 #include <QToolButton>
 
 namespace {
 
-/// The button in a menu: the menu moves the highlight, the button shows it.
+/// The button in a menu: the menu moves the highlight, and paints it as one of its own entries.
 class MenuRowButton : public QToolButton
 {
 public:
@@ -26,14 +27,54 @@ public:
         setMouseTracking(true);
     }
 
-protected:
-    void initStyleOption(QStyleOptionToolButton *option) const override
+    QSize sizeHint() const override
     {
-        QToolButton::initStyleOption(option);
-        option->state.setFlag(QStyle::State_MouseOver, menu_->activeAction() == action_);
+        const QStyleOptionMenuItem entry = entryOption();
+        const QFontMetrics metrics(entry.font);
+        const int height = qMax(metrics.height(), entryIconSize());
+        const QSize contents(metrics.size(Qt::TextShowMnemonic, text()).width(), height);
+        return menu_->style()->sizeFromContents(QStyle::CT_MenuItem, &entry, contents, menu_);
+    }
+
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QStyleOptionMenuItem entry = entryOption();
+        menu_->style()->drawControl(QStyle::CE_MenuItem, &entry, &painter, menu_);
     }
 
 private:
+    int entryIconSize() const
+    {
+        return menu_->style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, menu_);
+    }
+
+    QStyleOptionMenuItem entryOption() const
+    {
+        QStyleOptionMenuItem option;
+        option.initFrom(menu_);
+        option.rect = rect();
+        option.menuRect = menu_->rect();
+        option.state = QStyle::State_None;
+        option.state.setFlag(QStyle::State_Enabled, isEnabled());
+        option.state.setFlag(QStyle::State_Selected, menu_->activeAction() == action_);
+        option.state.setFlag(QStyle::State_Sunken, isDown());
+        option.font = menu_->font();
+        option.fontMetrics = QFontMetrics(option.font);
+        option.icon = icon();
+        option.text = text();
+        option.maxIconWidth = icon().isNull() ? 0 : entryIconSize() + 4;
+        if (isCheckable()) {
+            option.checkType = QStyleOptionMenuItem::NonExclusive;
+            option.checked = isChecked();
+            option.menuHasCheckableItems = true;
+        }
+        return option;
+    }
+
     const QAction *action_;
     const QMenu *menu_;
 };

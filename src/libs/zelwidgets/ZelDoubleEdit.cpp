@@ -253,13 +253,13 @@ QString ZelDoubleEdit::stripEndingZeros(const QString &text) const
 
 QValidator::State ZelDoubleEdit::validate(QString &text, int &position) const
 {
-    ZelNumberText::makeReadable(text, position, locale);
-    const QValidator::State state = QDoubleSpinBox::validate(text, position);
-    return ZelNumberText::judge(state, text, prefix(), suffix(), locale);
+    return ZelNumberText::validate(
+        text, position, {prefix(), suffix(), locale},
+        [this](QString &checked, int &at) { return QDoubleSpinBox::validate(checked, at); });
 }
 
 void ZelDoubleEdit::fixup(QString &text) const
 {
-    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale))
+    if (ZelNumberText::isNumber(text, {prefix(), suffix(), locale}))
         QDoubleSpinBox::fixup(text);
 }

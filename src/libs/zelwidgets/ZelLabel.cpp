@@ -112,6 +112,9 @@ void ZelLabel::showWholeText(QHelpEvent *event)
 
 void ZelLabel::followTextHeight()
 {
+    // First of all: polishing comes back here by its own style change, and a size taken before that
+    // would have to be taken again.
+    ensurePolished();
     if (document())
         setMinimumHeight(0);
     setMinimumHeight(sizeHint().height());

@@ -1,6 +1,6 @@
 #include "ZelPixmapLabel.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -62,7 +62,7 @@ void drawFrame(QPainter &painter, const QRectF &area)
 ZelPixmapLabel::ZelPixmapLabel(const QSize &size)
     : pictureSize_(size.expandedTo(QSize(0, 0)))
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     setFixedSize(pictureSize_ + QSize(2, 2));
     setAttribute(Qt::WA_Hover);
     setPixmap(QPixmap());
@@ -78,7 +78,9 @@ void ZelPixmapLabel::setPixmap(const QPixmap &pixmap)
     const qreal ratio = devicePixelRatioF();
     if (pixmap.isNull()) {
         pixmap_ = placeholder(pictureSize_, ratio);
+        isPlaceholder_ = true;
     } else {
+        isPlaceholder_ = false;
         pixmap_ =
             pixmap.scaled(pictureSize_ * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         pixmap_.setDevicePixelRatio(ratio);
@@ -171,13 +173,26 @@ void ZelPixmapLabel::setHovered(bool hovered)
         update();
 }
 
+QPixmap ZelPixmapLabel::dragPicture() const
+{
+    if (!isPlaceholder_ || pixmap_.isNull())
+        return pixmap_;
+    // The placeholder lets the ground through, and the drag's own ground has no theme.
+    QPixmap picture(pixmap_.size());
+    picture.setDevicePixelRatio(pixmap_.devicePixelRatio());
+    picture.fill(palette().color(QPalette::Window));
+    QPainter painter(&picture);
+    painter.drawPixmap(QPoint(0, 0), pixmap_);
+    return picture;
+}
+
 void ZelPixmapLabel::startDrag()
 {
     auto *data = new QMimeData;
     data->setData(mimeType_, dragData_);
     // It deletes itself when it is over.
     auto *drag = new QDrag(this);
-    drag->setPixmap(pixmap_);
+    drag->setPixmap(dragPicture());
     drag->setMimeData(data);
     drag->exec(Qt::MoveAction);
 }

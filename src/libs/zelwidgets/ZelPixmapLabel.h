@@ -38,6 +38,7 @@ protected:
 
 private:
     void setHovered(bool hovered);
+    QPixmap dragPicture() const;
     void startDrag();
 
     bool isDragPending_ = false;
@@ -49,4 +50,5 @@ private:
     bool isHovered_ = false;
     bool highlightHover_ = false;
     bool drawBorder_ = true;
+    bool isPlaceholder_ = true;
 };

@@ -64,6 +64,23 @@ ZelToolButton *underIcon(const QIcon &icon, const QString &text)
     return button;
 }
 
+/// A tool button and a push button of one look.
+QList<QWidget *> rankedPair(const QString &rank, const QString &dimension)
+{
+    const bool isOnAccent = rank == QLatin1String("Primary");
+    const ZelStyleIcon icon = themed(isOnAccent ? "play_on_accent" : "play");
+    auto *tool = ZelToolButton::createZelNextToolButton(ZelToolButton::Flat);
+    tool->setText(ButtonsPage::tr("Play"));
+    tool->setIcon(icon);
+    tool->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const QList<QWidget *> pair{tool, new ZelPushButton(icon, ButtonsPage::tr("Play"))};
+    for (QWidget *button : pair) {
+        button->setProperty("rank", rank);
+        button->setProperty("dimension", dimension);
+    }
+    return pair;
+}
+
 } // namespace
 
 ButtonsPage::ButtonsPage(QWidget *parent)
@@ -91,9 +108,12 @@ QGridLayout *ButtonsPage::addTable(const QString &title, const QString &explanat
     for (int column = 0; column < columns.size(); ++column) {
         auto *label = new QLabel(columns[column], this);
         label->setProperty("dim", true);
-        table->addWidget(label, 0, column + 1);
+        // An empty title leaves its room to the one before.
+        const bool isWide = column + 1 < columns.size() && columns[column + 1].isEmpty();
+        table->addWidget(label, 0, column + 1, 1, isWide ? 2 : 1);
+        column += isWide ? 1 : 0;
     }
-    table->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 26);
+    table->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 22);
     table->setColumnStretch(10, 1);
     section->addLayout(table);
     return table;
@@ -170,37 +190,32 @@ void ButtonsPage::addStates()
 
 void ButtonsPage::addRanks()
 {
-    QGridLayout *table = addTable(
-        tr("Ranks and dimensions"), tr("Tool buttons that look like the push buttons beside them."),
-        {QStringLiteral("Primary"), QString(), QStringLiteral("Secondary"), QString(),
-         QStringLiteral("Tertiary"), QString(), tr("disabled"), tr("checked")});
-    const auto look = [](QWidget *button, const QString &rank, const QString &dimension) {
-        button->setProperty("rank", rank);
-        button->setProperty("dimension", dimension);
-    };
-    const auto tool = [look](const QString &rank, const QString &dimension) {
-        auto *button = ZelToolButton::createZelNextToolButton(ZelToolButton::Flat);
-        button->setText(tr("Tool"));
-        button->setIcon(themed("play"));
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        look(button, rank, dimension);
-        return button;
-    };
-    for (const QString &dimension :
-         {QStringLiteral("Small"), QStringLiteral("Medium"), QStringLiteral("Large")}) {
-        QList<QWidget *> cells;
-        for (const QString &rank :
-             {QStringLiteral("Primary"), QStringLiteral("Secondary"), QStringLiteral("Tertiary")}) {
-            cells.append(tool(rank, dimension));
-            cells.append(new ZelPushButton(themed("play"), tr("Push")));
-            look(cells.last(), rank, dimension);
+    const QString small = QStringLiteral("Small");
+    const QString medium = QStringLiteral("Medium");
+    const QString large = QStringLiteral("Large");
+    QGridLayout *dimensions =
+        addTable(tr("Ranks and dimensions"),
+                 tr("On the left a tool button, on the right a push button of the same look."),
+                 {small, QString(), medium, QString(), large, QString()});
+    QGridLayout *states = addTable(
+        tr("Ranks in other states"), QString(),
+        {tr("checked"), QString(), tr("disabled"), QString(), tr("disabled, checked"), QString()});
+    for (QGridLayout *table : {dimensions, states})
+        table->setColumnMinimumWidth(0, 0);
+    for (const QString &rank :
+         {QStringLiteral("Primary"), QStringLiteral("Secondary"), QStringLiteral("Tertiary")}) {
+        addRow(dimensions, rank,
+               rankedPair(rank, small) + rankedPair(rank, medium) + rankedPair(rank, large));
+        const QList<QWidget *> cells =
+            rankedPair(rank, medium) + rankedPair(rank, medium) + rankedPair(rank, medium);
+        addRow(states, rank, cells);
+        for (int i = 0; i < cells.size(); ++i) {
+            auto *button = qobject_cast<QAbstractButton *>(cells[i]);
+            const bool isChecked = i / 2 != 1;
+            button->setCheckable(isChecked);
+            button->setChecked(isChecked);
+            button->setEnabled(i < 2);
         }
-        auto *disabled = tool(QStringLiteral("Secondary"), dimension);
-        disabled->setEnabled(false);
-        auto *checked = tool(QStringLiteral("Secondary"), dimension);
-        checked->setCheckable(true);
-        checked->setChecked(true);
-        addRow(table, dimension, cells << disabled << checked);
     }
 }
 
@@ -269,14 +284,16 @@ void ButtonsPage::addIconAlone()
 
 void ButtonsPage::addMenus()
 {
-    QGridLayout *table =
-        addTable(tr("Tool buttons with a menu"), QString(),
-                 {tr("delayed"), tr("beside"), tr("at once"), tr("disabled"), tr("no arrow")});
-    for (const bool withText : {false, true}) {
+    QGridLayout *table = addTable(tr("Tool buttons with a menu"), QString(),
+                                  {tr("icon"), tr("text beside icon"), tr("disabled")});
+    const std::pair<QString, QToolButton::ToolButtonPopupMode> modes[] = {
+        {tr("delayed"), QToolButton::DelayedPopup},
+        {tr("beside"), QToolButton::MenuButtonPopup},
+        {tr("at once"), QToolButton::InstantPopup},
+        {tr("no arrow"), QToolButton::InstantPopup}};
+    for (const auto &[title, mode] : modes) {
         QList<QWidget *> cells;
-        for (const auto mode :
-             {QToolButton::DelayedPopup, QToolButton::MenuButtonPopup, QToolButton::InstantPopup,
-              QToolButton::InstantPopup, QToolButton::InstantPopup}) {
+        for (const bool withText : {false, true, true}) {
             auto *button = named(new ZelToolButton(ZelToolButton::Border), tr("Settings"));
             button->setIcon(themed("gear"));
             if (withText)
@@ -289,11 +306,11 @@ void ButtonsPage::addMenus()
             watch(menu, &QMenu::triggered, QStringLiteral("triggered"));
             button->setMenu(menu);
             button->setPopupMode(mode);
-            button->setEnabled(cells.size() != 3);
-            button->setPaintMenuArrow(cells.size() != 4);
+            button->setEnabled(cells.size() != 2);
+            button->setPaintMenuArrow(title != tr("no arrow"));
             cells.append(button);
         }
-        addRow(table, withText ? tr("text beside icon") : tr("icon"), cells);
+        addRow(table, title, cells);
     }
 }
 
@@ -315,7 +332,7 @@ void ButtonsPage::addMenuButtons()
 {
     QGridLayout *table =
         addTable(tr("Menu buttons"), tr("With a header, or with the text of the current entry."),
-                 {tr("header"), tr("selection"), tr("one hidden entry"), tr("disabled")});
+                 {tr("enabled"), tr("disabled")});
     ZelMenuButton *header = materialButton(tr("Material"));
     ZelMenuButton *selection = materialButton(tr("Chosen material"));
     ZelMenuButton *hidden = materialButton(tr("No glass"));
@@ -324,7 +341,9 @@ void ButtonsPage::addMenuButtons()
     selection->showSelection();
     hidden->hideActionByIndex(1);
     disabled->setEnabled(false);
-    addRow(table, tr("menu button"), {header, selection, hidden, disabled});
+    addRow(table, tr("header"), {header, disabled});
+    addRow(table, tr("selection"), {selection});
+    addRow(table, tr("one hidden entry"), {hidden});
 }
 
 void ButtonsPage::addSwitches()
