@@ -297,6 +297,17 @@ void ButtonsTest::aDelayedMenuOpensByKeys()
     });
     QTest::keyClick(&button, Qt::Key_Down, Qt::AltModifier);
     QVERIFY(opened);
+
+    ZelMenuButton push;
+    push.addAction(QStringLiteral("Entry"));
+    push.show();
+    opened = false;
+    QTimer::singleShot(0, push.menu(), [&push, &opened] {
+        opened = push.menu()->isVisible();
+        push.menu()->close();
+    });
+    QTest::keyClick(&push, Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(opened);
 }
 
 void ButtonsTest::theHandCursorComesAndGoes()

@@ -164,8 +164,7 @@ void GroupingTest::theComboBoxAndTheListFollowEachOther()
 
     list.setState(ZelCollapsibleList::Collapsed);
     selection.clear();
-    combo->view()->setCurrentIndex(model.index(2));
-    Q_EMIT combo->activated(2);
+    QTest::keyClick(combo, Qt::Key_Down);
     QCOMPARE(view->currentIndex(), model.index(2));
     QCOMPARE(current.size(), 2);
     QCOMPARE(selection.size(), 1);

@@ -210,6 +210,9 @@ void NumberFieldsTest::theSpinBoxWritesByItsOwnRule()
     OpenSpinBox box(nullptr);
     QCOMPARE(box.decimals(), 4);
     QCOMPARE(box.textFromValue(0.25), text("0.25"));
+    QDoubleSpinBox plain;
+    plain.setDecimals(4);
+    QVERIFY(box.sizeHint().width() >= plain.sizeHint().width());
 }
 
 void NumberFieldsTest::zeroIsStepsAway()
@@ -400,6 +403,12 @@ void NumberFieldsTest::groupsAreReadInTheirPlacesOnly()
     QCOMPARE(count, 1500);
     QCOMPARE(box.value(), 1500.0);
     QCOMPARE(integers.value(), 1500);
+    edit.setRange(-10.0, 10.0);
+    number = 7.5F;
+    edit.updateValue();
+    enter(&edit, text("1.5"));
+    QCOMPARE(number, 7.5F);
+    QCOMPARE(edit.text(), text("7,5"));
     enter(&edit, text("2,75"));
     QCOMPARE(number, 2.75F);
 }

@@ -5,6 +5,8 @@
 #include "PageCatalog.h"
 #include "Screenshots.h"
 
+#include <ZelWidgets/ZelMenu>
+
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -16,6 +18,7 @@ class GallerySwitchTest : public TestCase
 
 private Q_SLOTS:
     void everyPageLooksAsInAFreshStart();
+    void aMenuThatWasOpenInTheSwitchOpensInTheNewTheme();
 
 private:
     QString freshPictures(const QString &theme) const;
@@ -75,6 +78,29 @@ void GallerySwitchTest::everyPageLooksAsInAFreshStart()
     // The second time visible widgets get no style event any more.
     application.setTheme(QStringLiteral("Light"));
     QCOMPARE(countDifferences(&window, QStringLiteral("Light"), light), 0);
+}
+
+void GallerySwitchTest::aMenuThatWasOpenInTheSwitchOpensInTheNewTheme()
+{
+    GalleryApplication application(QStringLiteral("Dark"));
+    QWidget window;
+    window.show();
+    ZelMenu menu(&window);
+    menu.addAction(QStringLiteral("Entry"));
+    const auto openedPicture = [&] {
+        menu.popup(window.mapToGlobal(QPoint()));
+        QCoreApplication::processEvents();
+        return menu.isVisible() ? menu.grab().toImage() : QImage();
+    };
+    const QImage dark = openedPicture();
+    QVERIFY(!dark.isNull());
+    application.setTheme(QStringLiteral("Light"));
+    const QImage light = openedPicture();
+    QVERIFY(!light.isNull() && light != dark);
+    application.setTheme(QStringLiteral("Dark"));
+    QCOMPARE(openedPicture(), dark);
+    menu.close();
+    QTRY_VERIFY(!menu.isVisible());
 }
 
 ZEL_TEST_MAIN(GallerySwitchTest)

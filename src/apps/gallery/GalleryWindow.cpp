@@ -46,6 +46,18 @@ bool flag(const ZelSettings &settings, const QString &key)
     return value.typeId() != QMetaType::Bool || value.toBool();
 }
 
+/// The last control of the widget in the order of the Tab key; the widget if it has none.
+QWidget *lastTabStop(QWidget *widget)
+{
+    QWidget *last = widget;
+    for (QWidget *next = widget->nextInFocusChain(); widget->isAncestorOf(next);
+         next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
+            last = next;
+    }
+    return last;
+}
+
 } // namespace
 
 GalleryWindow::GalleryWindow(GalleryApplication *application)
@@ -204,8 +216,6 @@ void GalleryWindow::createToolBar()
     label->setBuddy(fontSizeBox_);
     bar->addWidget(label);
     bar->addWidget(fontSizeBox_);
-    setTabOrder(fontSizeBox_, filter_);
-    setTabOrder(filter_, list_);
     updateFontSizeBox();
     connect(fontSizeBox_, &QComboBox::activated, this, &GalleryWindow::chooseFontSize);
     connect(application_, &GalleryApplication::fontSizeChanged, this,
@@ -300,8 +310,9 @@ void GalleryWindow::showPage(int index)
         connect(pages_[index], &GalleryPage::logged, log_, &LogPanel::addSignal);
         pages_[index]->leaveWheelToScrolling();
         static_cast<QScrollArea *>(stack_->widget(index))->setWidget(pages_[index]);
-        // A new page comes last in the tab order: the log has to come after it.
-        log_->followInTabOrder(previousInFocusChain());
+        // A new page comes last in the tab order; the log and the tool bar have to come after it.
+        log_->followInTabOrder(lastTabStop(pages_[index]));
+        setTabOrder(log_->lastTabStop(), fontSizeBox_);
     }
     stack_->setCurrentIndex(index);
     list_->setCurrentRow(index);

@@ -82,6 +82,11 @@ void LogPanel::followInTabOrder(QWidget *widget)
     setTabOrder(clearButton_, view_);
 }
 
+QWidget *LogPanel::lastTabStop() const
+{
+    return view_;
+}
+
 QString LogPanel::text() const
 {
     return view_->toPlainText();

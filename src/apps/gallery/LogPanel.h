@@ -17,6 +17,7 @@ public:
 
     /// Makes the Tab key go from a widget to the panel.
     void followInTabOrder(QWidget *widget);
+    QWidget *lastTabStop() const;
     QString text() const;
 
 public Q_SLOTS:

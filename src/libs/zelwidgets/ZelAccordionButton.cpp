@@ -1,7 +1,9 @@
 #include "ZelAccordionButton.h"
 
-#include <ZelCore/ZelSettings>
+#include "ZelAccessible.h"
+#include "ZelStoredValue.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QEvent>
@@ -17,14 +19,6 @@ constexpr int iconInsetOpen = 11;
 constexpr int iconInsetClosed = 12;
 constexpr int heightMargin = 6;
 
-bool storedState(const QString &key, bool fallback)
-{
-    if (key.isEmpty())
-        return fallback;
-    const QVariant stored = ZelSettings().value(key, fallback);
-    return stored.typeId() == QMetaType::Bool ? stored.toBool() : fallback;
-}
-
 void addArrow(ZelCombinedIcon &icon, const QString &file, QIcon::State state)
 {
     const ZelStyleIcon arrow(file);
@@ -39,13 +33,15 @@ ZelAccordionButton::ZelAccordionButton(const QString &text, const QString &setti
     : QPushButton(text)
     , settingsKey_(settingsKey)
 {
+    ZelAccessible::installFactory();
     setObjectName(QStringLiteral("ZelAccordionButton"));
     setCheckable(true);
-    setChecked(storedState(settingsKey_, open));
+    setChecked(storedValue(ZelSettings(), settingsKey_, open));
     setAutoDefault(false);
     setDefault(false);
     initIcon();
     connect(this, &QAbstractButton::clicked, this, &ZelAccordionButton::setOpen);
+    connect(this, &QAbstractButton::toggled, this, &ZelAccordionButton::announceState);
 }
 
 void ZelAccordionButton::initIcon()
@@ -114,6 +110,15 @@ void ZelAccordionButton::setOpen(bool open)
     Q_EMIT widgetVisible(open);
     if (!settingsKey_.isEmpty())
         ZelSettings().setValue(settingsKey_, open);
+}
+
+void ZelAccordionButton::announceState()
+{
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 QString ZelAccordionButton::shownText() const

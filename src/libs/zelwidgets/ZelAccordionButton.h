@@ -55,6 +55,7 @@ protected:
 private:
     void customCheckBoxClicked(bool checked);
     void placeCustomCheckBox();
+    void announceState();
     QString shownText() const;
 
     bool firstShow_ = true;

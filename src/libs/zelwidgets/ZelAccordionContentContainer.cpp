@@ -1,5 +1,7 @@
 #include "ZelAccordionContentContainer.h"
 
+#include "ZelVisibilityReport.h"
+
 ZelAccordionContentContainer::ZelAccordionContentContainer(QWidget *parent)
     : QWidget(parent)
 {
@@ -8,7 +10,5 @@ ZelAccordionContentContainer::ZelAccordionContentContainer(QWidget *parent)
 
 void ZelAccordionContentContainer::setVisible(bool visible)
 {
-    QWidget::setVisible(visible);
-    updateGeometry();
-    Q_EMIT visibilityChanged(visible);
+    setVisibleAndReport(this, visible);
 }

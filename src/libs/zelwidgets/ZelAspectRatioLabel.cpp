@@ -1,6 +1,6 @@
 #include "ZelAspectRatioLabel.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -10,7 +10,7 @@
 ZelAspectRatioLabel::ZelAspectRatioLabel(QWidget *parent)
     : QWidget(parent)
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);

@@ -1,6 +1,6 @@
 #include "ZelCheckBox.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 
 #include <QAction>
 #include <QScopedValueRollback>
@@ -32,7 +32,7 @@ ZelCheckBox::ZelCheckBox(QAction *action)
 
 void ZelCheckBox::bind(bool *value)
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
     value_ = value;
     if (value) {
         initialValue_ = *value;

@@ -1,6 +1,6 @@
 #include "ZelClickableLineEdit.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -8,7 +8,7 @@
 ZelClickableLineEdit::ZelClickableLineEdit(QWidget *parent)
     : QLineEdit(parent)
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     setReadOnly(true);
     setStyleSheet(QStringLiteral("text-decoration: underline"));
     installEventFilter(this);

@@ -1,10 +1,9 @@
 #include "ZelCollapsibleList.h"
 
 #include "ZelComboBox.h"
+#include "ZelStoredValue.h"
 #include "ZelToolButton.h"
 #include "theme/SingleClickActivationStyle.h"
-
-#include <ZelCore/ZelSettings>
 
 #include <QAction>
 #include <QGuiApplication>
@@ -111,7 +110,8 @@ void ZelCollapsibleList::restoreState()
 {
     const ZelSettings settings = settingsOf(this);
     if (settings.hasKey(stateKey()))
-        setState(settings.value(stateKey()).toInt() == Collapsed ? Collapsed : Expanded);
+        setState(storedValue<int>(settings, stateKey(), Expanded) == Collapsed ? Collapsed
+                                                                               : Expanded);
     // The height of a list that was never shown is none to come back to.
     expandedHeight_ = 0;
 }
@@ -129,7 +129,15 @@ ZelToolButton *ZelCollapsibleList::addButton(QAction *action)
 
 QModelIndex ZelCollapsibleList::currentIndex() const
 {
-    return state_ == Expanded ? listView_->currentIndex() : comboBox_->view()->currentIndex();
+    return state_ == Expanded ? listView_->currentIndex() : comboIndex();
+}
+
+// Not that of its view, which knows nothing of a choice by keys before it was first shown.
+QModelIndex ZelCollapsibleList::comboIndex() const
+{
+    const QAbstractItemModel *model = comboBox_->model();
+    return model ? model->index(comboBox_->currentIndex(), comboBox_->modelColumn())
+                 : QModelIndex();
 }
 
 void ZelCollapsibleList::setCurrentIndex(const QModelIndex &index)
@@ -151,9 +159,7 @@ QList<QModelIndex> ZelCollapsibleList::currentSelection() const
     if (state_ == Expanded)
         return listView_->selectionModel() ? listView_->selectionModel()->selectedIndexes()
                                            : QModelIndexList();
-    const QAbstractItemModel *model = comboBox_->model();
-    const QModelIndex index =
-        model ? model->index(comboBox_->currentIndex(), comboBox_->modelColumn()) : QModelIndex();
+    const QModelIndex index = comboIndex();
     return index.isValid() ? QModelIndexList{index} : QModelIndexList();
 }
 
@@ -251,7 +257,7 @@ void ZelCollapsibleList::comboCurrentIndexChanged()
     {
         const QSignalBlocker blocker(listView_);
         const QSignalBlocker ownBlocker(this);
-        listView_->setCurrentIndex(comboBox_->view()->currentIndex());
+        listView_->setCurrentIndex(comboIndex());
     }
     Q_EMIT currentIndexChanged();
     Q_EMIT selectionChanged();

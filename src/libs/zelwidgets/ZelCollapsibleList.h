@@ -68,6 +68,7 @@ private:
     void showExpanded();
     void showCollapsed(int row);
     void applyHeightRange();
+    QModelIndex comboIndex() const;
     void comboCurrentIndexChanged();
     void listCurrentIndexChanged(const QModelIndex &index);
     void listSelectionChanged();

@@ -1,14 +1,14 @@
 #include "ZelContentWidget.h"
 
+#include "ZelVisibilityReport.h"
+
 ZelContentWidget::ZelContentWidget(QWidget *parent)
     : QWidget(parent)
 {}
 
 void ZelContentWidget::setVisible(bool visible)
 {
-    QWidget::setVisible(visible);
-    updateGeometry();
-    Q_EMIT visibilityChanged(visible);
+    setVisibleAndReport(this, visible);
 }
 
 ZelContentWidget2::ZelContentWidget2(QWidget *parent)
@@ -17,7 +17,5 @@ ZelContentWidget2::ZelContentWidget2(QWidget *parent)
 
 void ZelContentWidget2::setVisible(bool visible)
 {
-    QWidget::setVisible(visible);
-    updateGeometry();
-    Q_EMIT visibilityChanged(visible);
+    setVisibleAndReport(this, visible);
 }

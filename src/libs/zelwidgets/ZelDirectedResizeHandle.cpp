@@ -1,5 +1,6 @@
 #include "ZelDirectedResizeHandle.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -14,6 +15,45 @@ constexpr int dotSize = 3;
 constexpr int dotDistance = 6;
 constexpr int thinnest = 8;
 
+/// The handle for assistive technology: a grip that is moved in the steps of the keys.
+class AccessibleHandle : public QAccessibleWidget
+{
+public:
+    explicit AccessibleHandle(ZelDirectedResizeHandle *handle)
+        : QAccessibleWidget(handle, QAccessible::Grip)
+    {}
+
+    QStringList actionNames() const override
+    {
+        const QStringList steps{increaseAction(), decreaseAction()};
+        return (widget()->isEnabled() ? steps : QStringList()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString &name) override
+    {
+        auto *handle = static_cast<ZelDirectedResizeHandle *>(object());
+        if (name != increaseAction() && name != decreaseAction())
+            QAccessibleWidget::doAction(name);
+        else if (handle->isEnabled())
+            handle->moveBy(name == increaseAction() ? ZelDirectedResizeHandle::keyStep
+                                                    : -ZelDirectedResizeHandle::keyStep);
+    }
+};
+
+void installAccessibleHandle()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory([](const QString &name, QObject *object) {
+            auto *handle = qobject_cast<ZelDirectedResizeHandle *>(object);
+            const bool isOwn = handle && name == QLatin1String("ZelDirectedResizeHandle");
+            return static_cast<QAccessibleInterface *>(isOwn ? new AccessibleHandle(handle)
+                                                             : nullptr);
+        });
+        return true;
+    }();
+    Q_UNUSED(installed);
+}
+
 } // namespace
 
 ZelDirectedResizeHandle::ZelDirectedResizeHandle(Qt::Orientation orientation, QWidget *parent)
@@ -21,6 +61,7 @@ ZelDirectedResizeHandle::ZelDirectedResizeHandle(Qt::Orientation orientation, QW
     , orientation_(orientation)
 {
     const bool isHorizontal = orientation == Qt::Horizontal;
+    installAccessibleHandle();
     setObjectName(QStringLiteral("DirectedResizeHandle"));
     setAttribute(Qt::WA_Hover);
     setAttribute(Qt::WA_StyledBackground);
@@ -85,8 +126,15 @@ void ZelDirectedResizeHandle::keyPressEvent(QKeyEvent *event)
     const int step = stepFor(event->key());
     if (step == 0 || isDragged_)
         return QWidget::keyPressEvent(event);
+    moveBy(step);
+}
+
+void ZelDirectedResizeHandle::moveBy(int pixels)
+{
+    if (isDragged_)
+        return;
     Q_EMIT dragStarted();
-    Q_EMIT dragged(step);
+    Q_EMIT dragged(pixels);
     Q_EMIT dragEnded();
 }
 

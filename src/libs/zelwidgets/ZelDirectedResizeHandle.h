@@ -15,6 +15,8 @@ public:
     explicit ZelDirectedResizeHandle(Qt::Orientation orientation, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    /// Moves it at once, as a short drag would; nothing during a drag.
+    void moveBy(int pixels);
 
 Q_SIGNALS:
     void dragStarted();

@@ -1,8 +1,7 @@
 #include "ZelDontShowAgainDialog.h"
 
 #include "ZelDialogTextCopier.h"
-
-#include <ZelCore/ZelSettings>
+#include "ZelStoredValue.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -82,14 +81,12 @@ int ZelDontShowAgainDialog::exec()
 
 bool ZelDontShowAgainDialog::storedShow() const
 {
-    const QVariant value = store().value(key_, true);
-    return value.typeId() == QMetaType::Bool ? value.toBool() : true;
+    return storedValue(store(), key_, true);
 }
 
 int ZelDontShowAgainDialog::storedChoice() const
 {
-    const QVariant value = store().value(choiceKey_, noChoice);
-    return value.typeId() == QMetaType::Int ? value.toInt() : noChoice;
+    return storedValue(store(), choiceKey_, noChoice);
 }
 
 void ZelDontShowAgainDialog::chooseEscapeKey()

@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <cmath>
 #include <limits>
 
 QLocale ZelDoubleEdit::locale = QLocale::system();
@@ -50,6 +51,18 @@ float ZelDoubleEdit::getValue() const
 bool ZelDoubleEdit::stripTailingZeros() const
 {
     return stripTailingZeros_;
+}
+
+QString ZelDoubleEdit::styleSheet() const
+{
+    const QString own = QDoubleSpinBox::styleSheet();
+    return own.isEmpty() && isCompact_ ? QStringLiteral("ZelDoubleEdit { min-height: 0px; }") : own;
+}
+
+// The style sheet style asks each widget for its sheet by the property.
+void ZelDoubleEdit::setCompact()
+{
+    isCompact_ = true;
 }
 
 void ZelDoubleEdit::setDecimals(int decimals)
@@ -116,9 +129,23 @@ void ZelDoubleEdit::displayUnitChanged()
 
 void ZelDoubleEdit::updateValue()
 {
-    const QSignalBlocker blocker(this);
     const auto stored = static_cast<double>(*value_);
-    setValue(unitManager_ ? unitManager_->convertToDisplay(quantity_, stored) : stored);
+    const double number = unitManager_ ? unitManager_->convertToDisplay(quantity_, stored) : stored;
+    if (showsAlready(number))
+        return;
+    const QSignalBlocker blocker(this);
+    setValue(number);
+    shown_ = {number, value(), displayDecimals_, decimalsIsAbsolute_, stripTailingZeros_,
+              locale, text()};
+}
+
+/// Whether updateValue() would change nothing, found out without making a text.
+bool ZelDoubleEdit::showsAlready(double number) const
+{
+    return number == shown_.number && std::signbit(number) == std::signbit(shown_.number) &&
+           value() == shown_.value && displayDecimals_ == shown_.decimals &&
+           decimalsIsAbsolute_ == shown_.isAbsolute && stripTailingZeros_ == shown_.strips &&
+           !lineEdit()->isModified() && text() == shown_.text && locale == shown_.locale;
 }
 
 void ZelDoubleEdit::resetValue()
@@ -226,13 +253,13 @@ QString ZelDoubleEdit::stripEndingZeros(const QString &text) const
 
 QValidator::State ZelDoubleEdit::validate(QString &text, int &position) const
 {
-    ZelNumberText::makeReadable(text, position, locale);
-    const QValidator::State state = QDoubleSpinBox::validate(text, position);
-    return ZelNumberText::judge(state, text, prefix(), suffix(), locale);
+    return ZelNumberText::validate(
+        text, position, {prefix(), suffix(), locale},
+        [this](QString &checked, int &at) { return QDoubleSpinBox::validate(checked, at); });
 }
 
 void ZelDoubleEdit::fixup(QString &text) const
 {
-    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale))
+    if (ZelNumberText::isNumber(text, {prefix(), suffix(), locale}))
         QDoubleSpinBox::fixup(text);
 }

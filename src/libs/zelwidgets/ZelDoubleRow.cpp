@@ -35,7 +35,7 @@ void ZelDoubleRow::createParts(const ZelRangeAdjustment::Range &range, float *va
     ZelSliderRow::expandSideways(row_);
     edit = new ZelDoubleEdit(row_, static_cast<double>(limitMinimum),
                              static_cast<double>(limitMaximum), value_);
-    edit->setStyleSheet(QStringLiteral("ZelDoubleEdit { min-height: 0px; }"));
+    edit->setCompact();
     edit->setSingleStep((range.maximum - range.minimum) / stepsPerRange);
     slider = new ZelDoubleSlider(row_, range.minimum, range.maximum, value_);
     ZelSliderRow::prepareSlider(slider);

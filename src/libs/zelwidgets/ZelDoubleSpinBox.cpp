@@ -32,6 +32,21 @@ void ZelDoubleSpinBox::setDegreeSuffix()
     setSuffix(tr(" %1").arg(QChar(0xb0)));
 }
 
+QSize ZelDoubleSpinBox::sizeHint() const
+{
+    // The base class measures the limits as they are shown, usually without decimals.
+    constexpr int measuredLength = 18;
+    const QFontMetrics metrics = fontMetrics();
+    int shown = 0;
+    int full = 0;
+    for (const double limit : {minimum(), maximum()}) {
+        const QString allDigits = locale.toString(limit, 'F', decimals());
+        shown = qMax(shown, metrics.horizontalAdvance(textFromValue(limit).left(measuredLength)));
+        full = qMax(full, metrics.horizontalAdvance(allDigits.left(measuredLength)));
+    }
+    return QDoubleSpinBox::sizeHint() + QSize(full - shown, 0);
+}
+
 void ZelDoubleSpinBox::stepBy(int steps)
 {
     if (canBeZero_) {
@@ -70,13 +85,13 @@ QString ZelDoubleSpinBox::textFromValue(double value) const
 
 QValidator::State ZelDoubleSpinBox::validate(QString &text, int &position) const
 {
-    ZelNumberText::makeReadable(text, position, locale);
-    const QValidator::State state = QDoubleSpinBox::validate(text, position);
-    return ZelNumberText::judge(state, text, prefix(), suffix(), locale);
+    return ZelNumberText::validate(
+        text, position, {prefix(), suffix(), locale},
+        [this](QString &checked, int &at) { return QDoubleSpinBox::validate(checked, at); });
 }
 
 void ZelDoubleSpinBox::fixup(QString &text) const
 {
-    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale))
+    if (ZelNumberText::isNumber(text, {prefix(), suffix(), locale}))
         QDoubleSpinBox::fixup(text);
 }

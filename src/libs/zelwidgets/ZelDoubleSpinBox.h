@@ -26,6 +26,8 @@ public:
     void setCanBeZero(bool canBeZero);
     void setDegreeSuffix();
 
+    /// Wide enough for the limits with all decimals.
+    QSize sizeHint() const override;
     void stepBy(int steps) override;
     QValidator::State validate(QString &text, int &position) const override;
     void fixup(QString &text) const override;

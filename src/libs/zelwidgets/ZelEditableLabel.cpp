@@ -1,6 +1,6 @@
 #include "ZelEditableLabel.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -14,7 +14,7 @@ ZelEditableLabel::ZelEditableLabel(QWidget *parent)
     , label_(new QLabel(this))
     , edit_(new QLineEdit(this))
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     setStyleSheet(QStringLiteral("background-color: transparent"));
     edit_->setStyleSheet(QStringLiteral("border: none; color: black"));
     edit_->setAccessibleName(tr("Text"));

@@ -101,7 +101,9 @@ void ZelFileNameDisplay::setFilename(const QString &filename)
     const QFileInfo file(filename);
     d_->nameField->setText(file.fileName());
     d_->nameField->setCursorPosition(0);
-    QString toolTip = !filename.isEmpty() && file.exists() ? path() : QString();
+    // A path with a zero can't be that of a file; Qt warns of the question.
+    const bool isPath = !filename.isEmpty() && !filename.contains(QChar::Null);
+    QString toolTip = isPath && file.exists() ? path() : QString();
     if (Qt::mightBeRichText(toolTip))
         toolTip = toolTip.toHtmlEscaped();
     d_->nameField->setToolTip(toolTip);

@@ -1,8 +1,7 @@
 #include "ZelFlipLabel.h"
 
-#include "ZelAccessibleClickable.h"
-
-#include <ZelCore/ZelSettings>
+#include "ZelAccessible.h"
+#include "ZelStoredValue.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,14 +20,6 @@ constexpr int heightWithArrow = 11;
 constexpr int textStartWithArrow = 12;
 constexpr int textStartAlone = 1;
 
-bool storedState(const QString &key, bool otherwise)
-{
-    if (key.isEmpty())
-        return otherwise;
-    const QVariant stored = ZelSettings().value(key);
-    return stored.typeId() == QMetaType::Bool ? stored.toBool() : otherwise;
-}
-
 } // namespace
 
 ZelFlipLabel::ZelFlipLabel(const QString &text, bool open)
@@ -38,9 +29,9 @@ ZelFlipLabel::ZelFlipLabel(const QString &text, bool open)
 ZelFlipLabel::ZelFlipLabel(const QString &text, const QString &settingsKey, bool open)
     : text_(text)
     , settingsKey_(settingsKey)
-    , isOpen_(storedState(settingsKey, open))
+    , isOpen_(storedValue(ZelSettings(), settingsKey, open))
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     setObjectName(QStringLiteral("ZelFlipLabel"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setContentsMargins(0, 0, 0, 0);

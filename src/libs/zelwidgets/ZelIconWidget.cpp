@@ -1,6 +1,6 @@
 #include "ZelIconWidget.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QPainter>
 
@@ -9,7 +9,7 @@ ZelIconWidget::ZelIconWidget(const QIcon &icon, QIcon::Mode mode, QIcon::State s
     , mode_(mode)
     , state_(state)
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
 }
 
 void ZelIconWidget::setIcon(const QIcon &icon)

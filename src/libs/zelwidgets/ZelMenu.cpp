@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QStyle>
 
 #include <utility>
 
@@ -18,18 +17,31 @@ constexpr const char *nonHideProperty = "specialNonHideActionPropId";
 // menus closes in one go, the second one hides at once and takes the first along.
 const ZelMenu *deferredMenu = nullptr;
 
-bool isActivationKey(const QMenu *menu, int key)
+// Space works in every style here: it is the key that switches what stays in view.
+bool isActivationKey(int key)
 {
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Select:
-        return true;
-    case Qt::Key_Space:
-        return menu->style()->styleHint(QStyle::SH_Menu_SpaceActivatesItem, nullptr, menu);
-    default:
-        return false;
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Select ||
+           key == Qt::Key_Space;
+}
+
+/// The only entry of the menu that the typed character stands for; null without one.
+QAction *mnemonicAction(const QMenu *menu, const QKeyEvent *event)
+{
+    const bool isTyped = !(event->modifiers() & ~(Qt::AltModifier | Qt::ShiftModifier));
+    if (!isTyped || event->text().size() != 1)
+        return nullptr;
+    const int key = event->text().at(0).toUpper().unicode();
+    QAction *found = nullptr;
+    for (QAction *action : menu->actions()) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(action->text());
+        const bool isMeant = action->isVisible() && action->isEnabled() && !mnemonic.isEmpty() &&
+                             mnemonic[0].key() == key;
+        if (isMeant && found)
+            return nullptr;
+        if (isMeant)
+            found = action;
     }
+    return found;
 }
 
 } // namespace
@@ -170,8 +182,9 @@ bool ZelMenu::staysOpenFor(QAction *action) const
 
 void ZelMenu::keyPressEvent(QKeyEvent *event)
 {
-    QAction *action = activeAction();
-    if (staysOpenFor(action) && isActivationKey(this, event->key())) {
+    QAction *action = isActivationKey(event->key()) ? activeAction() : mnemonicAction(this, event);
+    if (staysOpenFor(action)) {
+        setActiveAction(action);
         action->trigger();
         return;
     }

@@ -1,8 +1,9 @@
 #include "ZelMenuButton.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 
 #include <algorithm>
@@ -11,7 +12,7 @@ ZelMenuButton::ZelMenuButton(QWidget *parent)
     : QPushButton(parent)
     , menu_(new QMenu(this))
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
     setProperty("ZelMenuButton", true);
     menu_->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     menu_->setAttribute(Qt::WA_TranslucentBackground);
@@ -203,6 +204,14 @@ void ZelMenuButton::trigger(QAction *action)
         Q_EMIT triggered(action);
     if (self)
         Q_EMIT textActivated(text);
+}
+
+void ZelMenuButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier)
+        showMenu();
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 void ZelMenuButton::updateText()

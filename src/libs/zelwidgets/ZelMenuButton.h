@@ -73,6 +73,10 @@ Q_SIGNALS:
     void activated(int index);
     void textActivated(QString text);
 
+protected:
+    /// Alt and the down key open the menu, as in a combo box.
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void take(QAction *action);
     void updateText();

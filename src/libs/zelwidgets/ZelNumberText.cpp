@@ -63,24 +63,15 @@ void makeReadable(QString &text, int &position, const QLocale &locale)
     text = readable(text, locale);
 }
 
-bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale)
+bool isNumber(QString text, const Frame &frame)
 {
-    if (!prefix.isEmpty() && text.startsWith(prefix))
-        text.remove(0, prefix.size());
-    if (!suffix.isEmpty() && text.endsWith(suffix))
-        text.chop(suffix.size());
+    if (!frame.prefix.isEmpty() && text.startsWith(frame.prefix))
+        text.remove(0, frame.prefix.size());
+    if (!frame.suffix.isEmpty() && text.endsWith(frame.suffix))
+        text.chop(frame.suffix.size());
     bool isRead = false;
-    locale.toDouble(readable(text, locale), &isRead);
+    frame.locale.toDouble(readable(text, frame.locale), &isRead);
     return isRead;
-}
-
-QValidator::State judge(QValidator::State byBase, const QString &text, const QString &prefix,
-                        const QString &suffix, const QLocale &locale)
-{
-    const QString group = locale.groupSeparator();
-    if (byBase != QValidator::Acceptable || group.isEmpty() || !text.contains(group))
-        return byBase;
-    return isNumber(text, prefix, suffix, locale) ? byBase : QValidator::Intermediate;
 }
 
 double keptFromZero(double value)

@@ -39,14 +39,36 @@ QString spinBoxText(double value, int decimals, const QLocale &locale);
 QString readable(QString text, const QLocale &locale);
 /// The same to a text that is being edited; the cursor stays where it was among the digits.
 void makeReadable(QString &text, int &position, const QLocale &locale);
-/// Whether the locale reads the text between prefix and suffix; group separators have to be in
-/// their places.
-bool isNumber(QString text, const QString &prefix, const QString &suffix, const QLocale &locale);
+/// What stands around the number in a field, and the locale that it is written by.
+struct Frame
+{
+    QString prefix;
+    QString suffix;
+    QLocale locale;
+};
 
-/// What a field thinks of a text that its base class has judged. The base class drops group
-/// separators wherever they are, so that 1.5 would be 15 in German: such a text is unfinished.
-QValidator::State judge(QValidator::State byBase, const QString &text, const QString &prefix,
-                        const QString &suffix, const QLocale &locale);
+/// Whether the locale reads what is in the frame; group separators have to be in their places.
+bool isNumber(QString text, const Frame &frame);
+
+/// What a field thinks of a text, with the help of its base class. That one drops group separators
+/// wherever they are, so that 1.5 would be 15 in German, or does not let them be typed at all:
+/// here such a text can be typed, but it is no number.
+template <typename Base>
+QValidator::State validate(QString &text, int &position, const Frame &frame, Base &&base)
+{
+    makeReadable(text, position, frame.locale);
+    const QString group = frame.locale.groupSeparator();
+    QString bare = text;
+    if (!group.isEmpty())
+        bare.remove(group);
+    const QValidator::State state = base(text, position);
+    if (bare == text || state == QValidator::Intermediate)
+        return state;
+    if (state == QValidator::Acceptable)
+        return isNumber(text, frame) ? state : QValidator::Intermediate;
+    int end = static_cast<int>(bare.size());
+    return base(bare, end) == QValidator::Invalid ? state : QValidator::Intermediate;
+}
 
 /// Below this a number counts as zero where zero is not allowed.
 constexpr double smallestNonZero = 1e-6;

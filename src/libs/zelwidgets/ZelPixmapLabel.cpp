@@ -1,6 +1,6 @@
 #include "ZelPixmapLabel.h"
 
-#include "ZelAccessibleClickable.h"
+#include "ZelAccessible.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -62,7 +62,7 @@ void drawFrame(QPainter &painter, const QRectF &area)
 ZelPixmapLabel::ZelPixmapLabel(const QSize &size)
     : pictureSize_(size.expandedTo(QSize(0, 0)))
 {
-    ZelAccessibleClickable::installFactory();
+    ZelAccessible::installFactory();
     setFixedSize(pictureSize_ + QSize(2, 2));
     setAttribute(Qt::WA_Hover);
     setPixmap(QPixmap());

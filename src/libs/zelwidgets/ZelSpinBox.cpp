@@ -25,13 +25,13 @@ int ZelSpinBox::valueFromText(const QString &text) const
 
 QValidator::State ZelSpinBox::validate(QString &text, int &position) const
 {
-    ZelNumberText::makeReadable(text, position, locale());
-    const QValidator::State state = QSpinBox::validate(text, position);
-    return ZelNumberText::judge(state, text, prefix(), suffix(), locale());
+    return ZelNumberText::validate(
+        text, position, {prefix(), suffix(), locale()},
+        [this](QString &checked, int &at) { return QSpinBox::validate(checked, at); });
 }
 
 void ZelSpinBox::fixup(QString &text) const
 {
-    if (ZelNumberText::isNumber(text, prefix(), suffix(), locale()))
+    if (ZelNumberText::isNumber(text, {prefix(), suffix(), locale()}))
         QSpinBox::fixup(text);
 }

@@ -41,6 +41,8 @@ ZelSwitchControl::ZelSwitchControl(SwithButtonMode mode, QWidget *parent)
     : ZelToolButton(Flat, parent)
     , d_(std::make_unique<ZelSwitchControlPrivate>(mode))
 {
+    // Like a check box, by a click too.
+    setFocusPolicy(Qt::StrongFocus);
     setCheckable(true);
     setImageSquared(false);
     setIconOnlyMode(true);

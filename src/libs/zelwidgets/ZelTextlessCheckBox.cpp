@@ -1,6 +1,6 @@
 #include "ZelTextlessCheckBox.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 
 #include <QStyle>
 
@@ -11,7 +11,7 @@ ZelTextlessCheckBox::ZelTextlessCheckBox(QWidget *parent)
 ZelTextlessCheckBox::ZelTextlessCheckBox(const QString &text, QWidget *parent)
     : QCheckBox(text, parent)
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
 }
 
 QSize ZelTextlessCheckBox::sizeHint() const

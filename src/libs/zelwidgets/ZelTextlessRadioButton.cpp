@@ -1,6 +1,6 @@
 #include "ZelTextlessRadioButton.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 
 #include <QStyle>
 
@@ -11,7 +11,7 @@ ZelTextlessRadioButton::ZelTextlessRadioButton(QWidget *parent)
 ZelTextlessRadioButton::ZelTextlessRadioButton(const QString &text, QWidget *parent)
     : QRadioButton(text, parent)
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
 }
 
 QSize ZelTextlessRadioButton::sizeHint() const

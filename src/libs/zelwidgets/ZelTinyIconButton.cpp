@@ -1,13 +1,13 @@
 #include "ZelTinyIconButton.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 #include "ZelFocusFrame.h"
 
 ZelTinyIconButton::ZelTinyIconButton(const QIcon &icon, const QSize &iconSize,
                                      const QString &toolTip, QWidget *parent)
     : QToolButton(parent)
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
     setIcon(icon);
     setIconSize(iconSize);
     setToolTip(toolTip);

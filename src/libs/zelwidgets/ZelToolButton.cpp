@@ -1,6 +1,6 @@
 #include "ZelToolButton.h"
 
-#include "ZelAccessibleButton.h"
+#include "ZelAccessible.h"
 #include "ZelFocusFrame.h"
 
 #include <QAction>
@@ -83,7 +83,7 @@ ZelToolButton::ZelToolButton(BorderStyle style, QWidget *parent)
     : QToolButton(parent)
     , d_(std::make_unique<ZelToolButtonPrivate>(cursor()))
 {
-    ZelAccessibleButton::installFactory();
+    ZelAccessible::installFactory();
     setObjectName(style == Border ? QStringLiteral("BorderButton") : QStringLiteral("FlatButton"));
     setAutoRaise(true);
 }

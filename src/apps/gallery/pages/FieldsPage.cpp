@@ -28,8 +28,12 @@ struct Columns
         auto *row = new QHBoxLayout;
         row->setSpacing(32);
         section->addLayout(row);
-        for (QFormLayout *form : {left, right})
+        for (QFormLayout *form : {left, right}) {
+            form->setHorizontalSpacing(12);
+            form->setVerticalSpacing(8);
             row->addLayout(form);
+            row->setAlignment(form, Qt::AlignTop);
+        }
         row->addStretch(1);
     }
     QFormLayout *left = new QFormLayout;

@@ -5,6 +5,7 @@
 #include <ZelWidgets/ZelSeparator>
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelToolBar>
+#include <ZelWidgets/ZelToolButton>
 
 #include <QActionGroup>
 #include <QButtonGroup>
@@ -13,7 +14,6 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -61,14 +61,15 @@ MenusPage::MenusPage(QWidget *parent)
 
 QToolButton *MenusPage::createMenuButton(const QString &text, ZelMenu *menu)
 {
-    auto *button = new QToolButton(this);
-    button->setObjectName(QStringLiteral("BorderButtonMenu"));
+    auto *button = new ZelToolButton(ZelToolButton::Border, this);
+    button->addToObjectName(QStringLiteral("Menu"));
     button->setText(text);
     button->setPopupMode(QToolButton::InstantPopup);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setMenu(menu);
-    connect(menu, &QMenu::triggered, this,
-            [this, text](QAction *action) { log(text + QStringLiteral(": ") + action->text()); });
+    connect(menu, &QMenu::triggered, this, [this, text](QAction *action) {
+        log(text + QStringLiteral(": ") + action->text().remove(u'&'));
+    });
     return button;
 }
 
@@ -102,12 +103,12 @@ ZelMenu *MenusPage::createOptions()
         action->setChecked(true);
     }
     auto *more = new ZelMenu(tr("&Columns"), menu);
-    for (const QString &text : {tr("Name"), tr("Kind"), tr("Size")})
+    for (const QString &text : {tr("&Name"), tr("&Kind"), tr("&Size")})
         more->addNotHideAction(text)->setCheckable(true);
     menu->addMenu(more);
     menu->addSeparator();
     auto *quality = new QActionGroup(menu);
-    for (const QString &text : {tr("Draft"), tr("Final")}) {
+    for (const QString &text : {tr("&Draft"), tr("&Final")}) {
         QAction *action = menu->addNotHideAction(text);
         action->setCheckable(true);
         action->setActionGroup(quality);

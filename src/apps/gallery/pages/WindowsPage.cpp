@@ -10,6 +10,7 @@
 #include <ZelWidgets/ZelDeleteEventFilter>
 #include <ZelWidgets/ZelDirectedResizeWidget>
 #include <ZelWidgets/ZelPushButton>
+#include <ZelWidgets/ZelToolButton>
 #include <ZelWidgets/ZelWindowPlacement>
 
 #include <QCheckBox>
@@ -24,7 +25,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QScreen>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -191,8 +191,8 @@ void WindowsPage::addCorrections()
     tip->setToolTip(tr("A tool tip in one line"));
     addTrial(grid, {tip}, tr("Rest the mouse here: the tip is as large as its text needs."));
 
-    auto *menuButton = new QToolButton(this);
-    menuButton->setObjectName(QStringLiteral("BorderButtonMenu"));
+    auto *menuButton = new ZelToolButton(ZelToolButton::Border, this);
+    menuButton->addToObjectName(QStringLiteral("Menu"));
     menuButton->setText(tr("Menu"));
     menuButton->setPopupMode(QToolButton::InstantPopup);
     auto *menu = new QMenu(menuButton);
