@@ -108,7 +108,7 @@ ZelDialWidget::ZelDialWidget(QSize const &dialSize, bool backward, QWidget *pare
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(dial_);
     layout->addWidget(field_);
-    setFocusProxy(field_);
+    setFocusProxy(dial_);
     showOnDial();
     connect(dial_, &QDial::valueChanged, this, &ZelDialWidget::onValueChanged);
     connect(dial_, &QDial::sliderReleased, this, &ZelDialWidget::sliderReleased);
