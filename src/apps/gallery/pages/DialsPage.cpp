@@ -86,6 +86,8 @@ void DialsPage::addWheels()
         wheel->setEnabled(i != 3);
         auto *number = new QLabel(QLocale().toString(wheel->value()), this);
         number->setEnabled(wheel->isEnabled());
+        number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        number->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("-1,000")));
         grid->addWidget(caption(names[i], wheel), i, 0);
         grid->addWidget(wheel, i, 1);
         grid->addWidget(number, i, 2);
