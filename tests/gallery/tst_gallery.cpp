@@ -10,6 +10,7 @@
 
 #include <ZelWidgets/ZelStyleSheets>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>
@@ -22,6 +23,7 @@
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTextEdit>
+#include <QToolButton>
 #include <QWheelEvent>
 
 #include <algorithm>
