@@ -9,6 +9,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
+#include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/SizesPage.h"
 #include "pages/SlidersPage.h"
@@ -73,6 +74,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("messages"), text("Message boxes"),
          text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
          &make<MessageBoxesPage>},
+        {QStringLiteral("parameters"), text("Parameter panel"),
+         text("Forty rows in sections, units that switch live, ranges that follow, their numbers"),
+         QStringLiteral("sliders"), &make<ParameterPanelPage>},
         {QStringLiteral("sliders"), text("Sliders"),
          text("Sliders of real and whole numbers, bound to numbers of the page"),
          QStringLiteral("sliders"), &make<SlidersPage>},

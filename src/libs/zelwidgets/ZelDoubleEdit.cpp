@@ -11,9 +11,19 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <cmath>
 #include <limits>
+
+namespace {
+
+QString compactSheet()
+{
+    return QStringLiteral("ZelDoubleEdit { min-height: 0px; }");
+}
+
+} // namespace
 
 QLocale ZelDoubleEdit::locale = QLocale::system();
 
@@ -56,13 +66,15 @@ bool ZelDoubleEdit::stripTailingZeros() const
 QString ZelDoubleEdit::styleSheet() const
 {
     const QString own = QDoubleSpinBox::styleSheet();
-    return own.isEmpty() && isCompact_ ? QStringLiteral("ZelDoubleEdit { min-height: 0px; }") : own;
+    return own.isEmpty() && isCompact_ ? compactSheet() : own;
 }
 
-// The style sheet style asks each widget for its sheet by the property.
 void ZelDoubleEdit::setCompact()
 {
     isCompact_ = true;
+    // A style sheet style asks each widget for its sheet by the property; other styles don't ask.
+    if (!style()->inherits("QStyleSheetStyle"))
+        setStyleSheet(compactSheet());
 }
 
 void ZelDoubleEdit::setDecimals(int decimals)

@@ -45,7 +45,8 @@ public:
     QString styleSheet() const;
 
     /// Lets the field be as low as its text, as the sheet "ZelDoubleEdit { min-height: 0px; }" of
-    /// its own would, without the style object that Qt makes for each widget with a sheet.
+    /// its own would. Under a sheet of the application or of an ancestor it does without the style
+    /// object that Qt makes for each widget with a sheet.
     void setCompact();
     /// How many digits follow the decimal point; a text typed with more raises the number, so that
     /// it stays visible. Takes effect with the next text.
