@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
@@ -8,7 +9,9 @@
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
+#include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
+#include "pages/SizesPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
@@ -71,9 +74,18 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("messages"), text("Message boxes"),
          text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
          &make<MessageBoxesPage>},
+        {QStringLiteral("parameters"), text("Parameter panel"),
+         text("Forty rows in sections, units that switch live, ranges that follow, their numbers"),
+         QStringLiteral("sliders"), &make<ParameterPanelPage>},
         {QStringLiteral("sliders"), text("Sliders"),
          text("Sliders of real and whole numbers, bound to numbers of the page"),
          QStringLiteral("sliders"), &make<SlidersPage>},
+        {QStringLiteral("sizes"), text("Size and coordinates"),
+         text("Sizes with a locked aspect, geographic positions"), QStringLiteral("link"),
+         &make<SizesPage>},
+        {QStringLiteral("dials"), text("Dials, wheels, scale"),
+         text("Angles, thumb wheels, scales and groups that flip open"), QStringLiteral("gear"),
+         &make<DialsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

@@ -20,6 +20,14 @@ void ZelAccessibleValue::describeBy(QWidget *widget, QAbstractSpinBox *field)
     widget->setProperty(fieldProperty, QVariant::fromValue(QPointer<QAbstractSpinBox>(field)));
 }
 
+void ZelAccessibleValue::announce(QWidget *widget, double value)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleValueChangeEvent event(widget, value);
+    QAccessible::updateAccessibility(&event);
+}
+
 void *ZelAccessibleValue::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::ValueInterface)

@@ -21,6 +21,9 @@ public:
     /// The field whose text is the value of the widget; the field may die.
     static void describeBy(QWidget *widget, QAbstractSpinBox *field);
 
+    /// Tells assistive technology that the user changed the value of the widget.
+    static void announce(QWidget *widget, double value);
+
     void *interface_cast(QAccessible::InterfaceType type) override;
     /// Beside what each widget has: the tool tip as name of last resort, and the value.
     QString text(QAccessible::Text kind) const override;

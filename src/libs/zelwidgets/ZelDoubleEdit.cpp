@@ -11,8 +11,19 @@
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QStyle>
 
+#include <cmath>
 #include <limits>
+
+namespace {
+
+QString compactSheet()
+{
+    return QStringLiteral("ZelDoubleEdit { min-height: 0px; }");
+}
+
+} // namespace
 
 QLocale ZelDoubleEdit::locale = QLocale::system();
 
@@ -50,6 +61,20 @@ float ZelDoubleEdit::getValue() const
 bool ZelDoubleEdit::stripTailingZeros() const
 {
     return stripTailingZeros_;
+}
+
+QString ZelDoubleEdit::styleSheet() const
+{
+    const QString own = QDoubleSpinBox::styleSheet();
+    return own.isEmpty() && isCompact_ ? compactSheet() : own;
+}
+
+void ZelDoubleEdit::setCompact()
+{
+    isCompact_ = true;
+    // A style sheet style asks each widget for its sheet by the property; other styles don't ask.
+    if (!style()->inherits("QStyleSheetStyle"))
+        setStyleSheet(compactSheet());
 }
 
 void ZelDoubleEdit::setDecimals(int decimals)
@@ -116,9 +141,23 @@ void ZelDoubleEdit::displayUnitChanged()
 
 void ZelDoubleEdit::updateValue()
 {
-    const QSignalBlocker blocker(this);
     const auto stored = static_cast<double>(*value_);
-    setValue(unitManager_ ? unitManager_->convertToDisplay(quantity_, stored) : stored);
+    const double number = unitManager_ ? unitManager_->convertToDisplay(quantity_, stored) : stored;
+    if (showsAlready(number))
+        return;
+    const QSignalBlocker blocker(this);
+    setValue(number);
+    shown_ = {number, value(), displayDecimals_, decimalsIsAbsolute_, stripTailingZeros_,
+              locale, text()};
+}
+
+/// Whether updateValue() would change nothing, found out without making a text.
+bool ZelDoubleEdit::showsAlready(double number) const
+{
+    return number == shown_.number && std::signbit(number) == std::signbit(shown_.number) &&
+           value() == shown_.value && displayDecimals_ == shown_.decimals &&
+           decimalsIsAbsolute_ == shown_.isAbsolute && stripTailingZeros_ == shown_.strips &&
+           !lineEdit()->isModified() && text() == shown_.text && locale == shown_.locale;
 }
 
 void ZelDoubleEdit::resetValue()

@@ -26,6 +26,7 @@ class ZelUnitManager;
 class ZELWIDGETS_EXPORT ZelDoubleEdit : public QDoubleSpinBox
 {
     Q_OBJECT
+    Q_PROPERTY(QString styleSheet READ styleSheet WRITE setStyleSheet)
 
 public:
     /// What all fields of the class write and read numbers by; the system's at first. A field takes
@@ -40,7 +41,13 @@ public:
 
     float getValue() const;
     bool stripTailingZeros() const;
+    /// The field's own sheet, or the one that setCompact() stands for.
+    QString styleSheet() const;
 
+    /// Lets the field be as low as its text, as the sheet "ZelDoubleEdit { min-height: 0px; }" of
+    /// its own would. Under a sheet of the application or of an ancestor it does without the style
+    /// object that Qt makes for each widget with a sheet.
+    void setCompact();
     /// How many digits follow the decimal point; a text typed with more raises the number, so that
     /// it stays visible. Takes effect with the next text.
     void setDecimals(int decimals);
@@ -92,6 +99,7 @@ private:
     QString stripEndingZeros(const QString &text) const;
     void adaptDecimals(const QString &text) const;
     bool isUntouched() const;
+    bool showsAlready(double number) const;
     void resetByUser();
     void tellChange();
 
@@ -100,9 +108,22 @@ private:
     bool decimalsIsAbsolute_ = true;
     bool stripTailingZeros_ = true;
     bool keepsNumber_ = false;
+    bool isCompact_ = false;
     float initialValue_ = 0.0F;
     mutable int displayDecimals_ = 3;
     mutable int baseDecimals_ = 3;
     float *value_;
     float ownValue_ = 0.0F;
+    /// What the last updateValue() made of which number; a null text before the first one.
+    struct Shown
+    {
+        double number = 0.0;
+        double value = 0.0;
+        int decimals = 0;
+        bool isAbsolute = false;
+        bool strips = false;
+        QLocale locale;
+        QString text;
+    };
+    Shown shown_;
 };

@@ -1,6 +1,7 @@
 #include "ZelSliderGroove.h"
 
-#include <QAccessible>
+#include "ZelAccessibleValue.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSlider>
@@ -50,10 +51,7 @@ float ZelSliderGroove::partAt(const QSlider *slider, const QMouseEvent *event)
 
 void ZelSliderGroove::announce(QSlider *slider, double value)
 {
-    if (!QAccessible::isActive())
-        return;
-    QAccessibleValueChangeEvent event(slider, value);
-    QAccessible::updateAccessibility(&event);
+    ZelAccessibleValue::announce(slider, value);
 }
 
 bool ZelSliderGroove::isLeftButton(const QMouseEvent *event)
