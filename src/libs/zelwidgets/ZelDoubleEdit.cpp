@@ -50,6 +50,7 @@ ZelDoubleEdit::ZelDoubleEdit(QWidget *parent, double minimum, double maximum, fl
     setFixedWidth(80);
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setKeyboardTracking(false);
+    rememberShown(static_cast<double>(*value_));
     connect(this, &QDoubleSpinBox::valueChanged, this, &ZelDoubleEdit::valueChangedSlot);
 }
 
@@ -147,6 +148,11 @@ void ZelDoubleEdit::updateValue()
         return;
     const QSignalBlocker blocker(this);
     setValue(number);
+    rememberShown(number);
+}
+
+void ZelDoubleEdit::rememberShown(double number)
+{
     shown_ = {number, value(), displayDecimals_, decimalsIsAbsolute_, stripTailingZeros_,
               locale, text()};
 }
