@@ -120,6 +120,8 @@ private:
     {
         double number = 0.0;
         double value = 0.0;
+        double minimum = 0.0;
+        double maximum = 0.0;
         int decimals = 0;
         bool isAbsolute = false;
         bool strips = false;
