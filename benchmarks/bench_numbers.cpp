@@ -16,6 +16,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
+#include <QTest>
 #include <QVBoxLayout>
 
 #include <benchmark/benchmark.h>
@@ -165,8 +166,11 @@ void updateUnchanged(benchmark::State &state, const QString &sheet)
     const std::unique_ptr<QWidget> panel = panelOf(&makeRow);
     panel->resize(400, 1000);
     panel->show();
-    for (int i = 0; i < 5; ++i)
-        QApplication::processEvents();
+    if (!QTest::qWaitForWindowExposed(panel.get())) {
+        state.SkipWithError("The panel was not shown.");
+        return;
+    }
+    panel->repaint();
     const auto rows = panel->findChildren<ZelDoubleSliderEdit *>();
     PaintCount count;
     qApp->installEventFilter(&count);

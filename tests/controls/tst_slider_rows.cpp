@@ -484,7 +484,6 @@ void TestSliderRows::unchangedNumberIsNotRepainted()
     float value = 0.25F;
     const auto row = makeRow(&value);
     show(row.get());
-    row->updateValue();
     QCoreApplication::processEvents();
     PaintCount count;
     for (QWidget *part : row->findChildren<QWidget *>())

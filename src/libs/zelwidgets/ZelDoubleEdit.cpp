@@ -50,6 +50,7 @@ ZelDoubleEdit::ZelDoubleEdit(QWidget *parent, double minimum, double maximum, fl
     setFixedWidth(80);
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setKeyboardTracking(false);
+    rememberShown(static_cast<double>(*value_));
     connect(this, &QDoubleSpinBox::valueChanged, this, &ZelDoubleEdit::valueChangedSlot);
 }
 
@@ -147,17 +148,30 @@ void ZelDoubleEdit::updateValue()
         return;
     const QSignalBlocker blocker(this);
     setValue(number);
-    shown_ = {number, value(), displayDecimals_, decimalsIsAbsolute_, stripTailingZeros_,
-              locale, text()};
+    rememberShown(number);
+}
+
+void ZelDoubleEdit::rememberShown(double number)
+{
+    shown_ = {number,
+              value(),
+              minimum(),
+              maximum(),
+              displayDecimals_,
+              decimalsIsAbsolute_,
+              stripTailingZeros_,
+              locale,
+              text()};
 }
 
 /// Whether updateValue() would change nothing, found out without making a text.
 bool ZelDoubleEdit::showsAlready(double number) const
 {
     return number == shown_.number && std::signbit(number) == std::signbit(shown_.number) &&
-           value() == shown_.value && displayDecimals_ == shown_.decimals &&
-           decimalsIsAbsolute_ == shown_.isAbsolute && stripTailingZeros_ == shown_.strips &&
-           !lineEdit()->isModified() && text() == shown_.text && locale == shown_.locale;
+           value() == shown_.value && minimum() == shown_.minimum && maximum() == shown_.maximum &&
+           displayDecimals_ == shown_.decimals && decimalsIsAbsolute_ == shown_.isAbsolute &&
+           stripTailingZeros_ == shown_.strips && !lineEdit()->isModified() &&
+           text() == shown_.text && locale == shown_.locale;
 }
 
 void ZelDoubleEdit::resetValue()

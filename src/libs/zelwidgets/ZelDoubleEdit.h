@@ -100,6 +100,7 @@ private:
     void adaptDecimals(const QString &text) const;
     bool isUntouched() const;
     bool showsAlready(double number) const;
+    void rememberShown(double number);
     void resetByUser();
     void tellChange();
 
@@ -114,11 +115,13 @@ private:
     mutable int baseDecimals_ = 3;
     float *value_;
     float ownValue_ = 0.0F;
-    /// What the last updateValue() made of which number; a null text before the first one.
+    /// What the program last showed, and of which number.
     struct Shown
     {
         double number = 0.0;
         double value = 0.0;
+        double minimum = 0.0;
+        double maximum = 0.0;
         int decimals = 0;
         bool isAbsolute = false;
         bool strips = false;
