@@ -11,6 +11,7 @@
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
+#include "pages/VideoFramesPage.h"
 #include "pages/WindowsPage.h"
 
 #include <QCoreApplication>
@@ -66,6 +67,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("messages"), text("Message boxes"),
          text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
          &make<MessageBoxesPage>},
+        {QStringLiteral("video"), text("Video frames"),
+         text("A video becomes a numbered series of pictures"), QStringLiteral("play"),
+         &make<VideoFramesPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
