@@ -72,6 +72,7 @@ void VideoFramesPage::addSource()
     row->addStretch(1);
     auto *form = new QFormLayout;
     form->addRow(tr("File:"), row);
+    seconds_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     form->addRow(tr("Test clip:"), seconds_);
     section->addLayout(form);
 }
