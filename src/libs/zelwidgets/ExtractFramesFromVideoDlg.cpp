@@ -26,6 +26,8 @@
 class ExtractFramesFromVideoDlgPrivate
 {
 public:
+    QLayout *createFields(QWidget *parent);
+
     PrivateVideoInformation information;
     VideoInformation result;
     std::shared_ptr<ZelFrameExtraction> extraction; ///< while frames are being written
@@ -89,6 +91,30 @@ private:
 };
 
 } // namespace
+
+QLayout *ExtractFramesFromVideoDlgPrivate::createFields(QWidget *parent)
+{
+    using Dialog = ExtractFramesFromVideoDlg;
+    format = new ZelComboBox(parent);
+    format->addItems({QStringLiteral("PNG"), QStringLiteral("JPEG")});
+    format->setAccessibleName(Dialog::tr("Output Format"));
+    information.format = format->currentText().toLower();
+    folder = new ZelLineEdit(information.outputFolder, parent);
+    folder->setMinimalTextWidth(folderWidth);
+    folder->setAccessibleName(Dialog::tr("Output Folder"));
+    browse = new ZelToolButton(ZelToolButton::Border, parent);
+    browse->setIcon(ZelStyleIcon(QStringLiteral(":ui/icons/folder")));
+    browse->setToolTip(Dialog::tr("Select output folder"));
+    browse->setFocusPolicy(Qt::StrongFocus);
+
+    auto *folderRow = new QHBoxLayout;
+    folderRow->addWidget(folder, 1);
+    folderRow->addWidget(browse);
+    auto *form = new QFormLayout;
+    form->addRow(Dialog::tr("Output Format:"), format);
+    form->addRow(Dialog::tr("Output Folder:"), folderRow);
+    return form;
+}
 
 ExtractFramesFromVideoDlg::ExtractFramesFromVideoDlg(const QString &videoPath, QWidget *parent)
     : QDialog(parent)
@@ -158,15 +184,7 @@ void ExtractFramesFromVideoDlg::setupUi()
                                    .arg(information.resolutionText, information.durationText,
                                         QString::number(information.frameCount)),
                                this);
-    d_->format = new ZelComboBox(this);
-    d_->format->addItems({QStringLiteral("PNG"), QStringLiteral("JPEG")});
-    d_->information.format = d_->format->currentText().toLower();
-    d_->folder = new ZelLineEdit(information.outputFolder, this);
-    d_->folder->setMinimalTextWidth(folderWidth);
-    d_->browse = new ZelToolButton(ZelToolButton::Border, this);
-    d_->browse->setIcon(ZelStyleIcon(QStringLiteral(":ui/icons/folder")));
-    d_->browse->setToolTip(tr("Select output folder"));
-    d_->browse->setFocusPolicy(Qt::StrongFocus);
+    QLayout *fields = d_->createFields(this);
     d_->progress = new QProgressBar(this);
     // An upper bound of 0 would show a bar that is always busy.
     d_->progress->setRange(0, std::max(information.frameCount, 1));
@@ -175,17 +193,9 @@ void ExtractFramesFromVideoDlg::setupUi()
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     d_->ok = buttons->button(QDialogButtonBox::Ok);
 
-    auto *folderRow = new QHBoxLayout;
-    folderRow->addWidget(d_->folder, 1);
-    folderRow->addWidget(d_->browse);
-    auto *form = new QFormLayout;
-    form->addRow(tr("Output Format:"), d_->format);
-    form->addRow(tr("Output Folder:"), folderRow);
-    for (QWidget *field : {static_cast<QWidget *>(d_->format), static_cast<QWidget *>(d_->folder)})
-        field->setAccessibleName(field == d_->format ? tr("Output Format") : tr("Output Folder"));
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(summary);
-    layout->addLayout(form);
+    layout->addLayout(fields);
     layout->addWidget(d_->progress);
     layout->addWidget(buttons);
 
