@@ -16,6 +16,7 @@
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
+#include "pages/VideoFramesPage.h"
 #include "pages/WindowsPage.h"
 
 #include <QCoreApplication>
@@ -86,6 +87,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dials"), text("Dials, wheels, scale"),
          text("Angles, thumb wheels, scales and groups that flip open"), QStringLiteral("gear"),
          &make<DialsPage>},
+        {QStringLiteral("video"), text("Video frames"),
+         text("A video becomes a numbered series of pictures"), QStringLiteral("play"),
+         &make<VideoFramesPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
