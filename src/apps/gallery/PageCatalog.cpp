@@ -8,6 +8,7 @@
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/PlainWidgetsPage.h"
+#include "pages/ProgressPage.h"
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
@@ -66,6 +67,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("messages"), text("Message boxes"),
          text("Each kind, timed default, no dialogs, don't show again"), QStringLiteral("warning"),
          &make<MessageBoxesPage>},
+        {QStringLiteral("progress"), text("Progress"),
+         text("Progress dialogs, an observer of real work, the splash window"),
+         QStringLiteral("refresh"), &make<ProgressPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
