@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/CropPage.h"
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
@@ -70,6 +71,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("progress"), text("Progress"),
          text("Progress dialogs, an observer of real work, the splash window"),
          QStringLiteral("refresh"), &make<ProgressPage>},
+        {QStringLiteral("crop"), text("Crop"),
+         text("Cutting a picture to an aspect ratio, on the page and in a dialog"),
+         QStringLiteral("window_expand"), &make<CropPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
