@@ -65,6 +65,20 @@ QImage composed(const QPixmap &picture, const QRect &rect)
     return shown.toImage();
 }
 
+/// What was painted of a widget while it lives.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region_ += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+    QRegion region_;
+};
+
 QImage shownBy(const ZelImageCropWidget &widget)
 {
     return widget.pixmap(Qt::ReturnByValue).toImage();
@@ -87,6 +101,7 @@ private Q_SLOTS:
     void emptySizesDoNoHarm();
     void theWidgetShowsWhatAWholeCompositionWould_data();
     void theWidgetShowsWhatAWholeCompositionWould();
+    void aStepRepaintsWhatItChanges();
     void theCursorTellsTheDrag();
     void theKeysMoveAndResize();
     void cuttingTwiceCutsTheCut();
@@ -273,6 +288,26 @@ void CropTest::theWidgetShowsWhatAWholeCompositionWould()
         QTest::keyClick(&widget, Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(shownBy(widget), composed(picture, widget.cropRect()));
         QCOMPARE(kept.toImage(), before);
+    }
+}
+
+void CropTest::aStepRepaintsWhatItChanges()
+{
+    ZelImageCropWidget widget(noise({200, 120}, false), QSize(1, 1));
+    widget.setMargin(3);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QCoreApplication::processEvents();
+    const QImage before = widget.grab().toImage();
+    const PaintedRegion painted(&widget);
+    QTest::keyClick(&widget, Qt::Key_Right, Qt::ShiftModifier);
+    QTRY_VERIFY(!painted.region_.isEmpty());
+    const QRegion region = painted.region_;
+    const QImage after = widget.grab().toImage();
+    QVERIFY(after != before && !region.contains(widget.rect().center()));
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x)
+            QVERIFY(after.pixel(x, y) == before.pixel(x, y) || region.contains(QPoint(x, y)));
     }
 }
 

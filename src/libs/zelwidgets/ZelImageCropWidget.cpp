@@ -83,13 +83,15 @@ void ZelImageCropWidget::cropImage()
 // A step of a drag changes the strips between the rectangle as it is shown and as it is now.
 void ZelImageCropWidget::updateImage()
 {
-    if (pictureSize_.isEmpty())
-        return;
     const QRect rect = cropRect();
+    const bool isStep = !overlay_.isNull();
+    if (pictureSize_.isEmpty() || (isStep && rect == shownRect_))
+        return;
     QRegion changed = QRect(QPoint(), pictureSize_);
-    if (!overlay_.isNull()) {
-        if (rect == shownRect_)
-            return;
+    // A new pixmap would repaint the whole label.
+    const bool wasDisabled = testAttribute(Qt::WA_UpdatesDisabled);
+    setAttribute(Qt::WA_UpdatesDisabled);
+    if (isStep) {
         changed = QRegion(rect).xored(shownRect_) + outlineOf(rect) + outlineOf(shownRect_);
         // The label's share of the pixmap would make it a copy of the whole.
         setPixmap(QPixmap());
@@ -100,6 +102,11 @@ void ZelImageCropWidget::updateImage()
     shownRect_ = rect;
     compose(changed);
     setPixmap(overlay_);
+    setAttribute(Qt::WA_UpdatesDisabled, wasDisabled);
+    if (isStep)
+        update(changed.translated(pictureOrigin()));
+    else
+        update();
     describe();
 }
 
@@ -127,10 +134,14 @@ void ZelImageCropWidget::describe()
                                  .arg(rect.y()));
 }
 
+QPoint ZelImageCropWidget::pictureOrigin() const
+{
+    return contentsRect().topLeft() + QPoint(margin(), margin());
+}
+
 QPoint ZelImageCropWidget::picturePosition(const QMouseEvent *event) const
 {
-    const int inset = margin();
-    return event->position().toPoint() - contentsRect().topLeft() - QPoint(inset, inset);
+    return event->position().toPoint() - pictureOrigin();
 }
 
 void ZelImageCropWidget::mousePressEvent(QMouseEvent *event)

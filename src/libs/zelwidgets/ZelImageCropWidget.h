@@ -43,6 +43,7 @@ private:
     void updateOverrideCursor();
     void describe();
     void followInScrollArea(const QPoint &step, bool isResize);
+    QPoint pictureOrigin() const;
     QPoint picturePosition(const QMouseEvent *event) const;
 
     QPixmap picture_;
