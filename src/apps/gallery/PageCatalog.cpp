@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/CropPage.h"
 #include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
@@ -11,6 +12,7 @@
 #include "pages/MessageBoxesPage.h"
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
+#include "pages/ProgressPage.h"
 #include "pages/SizesPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/StyleSheetPage.h"
@@ -90,6 +92,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("video"), text("Video frames"),
          text("A video becomes a numbered series of pictures"), QStringLiteral("play"),
          &make<VideoFramesPage>},
+        {QStringLiteral("progress"), text("Progress"),
+         text("Progress dialogs, an observer of real work, the splash window"),
+         QStringLiteral("refresh"), &make<ProgressPage>},
+        {QStringLiteral("crop"), text("Crop"),
+         text("Cutting a picture to an aspect ratio, on the page and in a dialog"),
+         QStringLiteral("window_expand"), &make<CropPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

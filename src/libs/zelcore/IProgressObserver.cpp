@@ -1,0 +1,3 @@
+#include "IProgressObserver.h"
+
+IProgressObserver::~IProgressObserver() = default;

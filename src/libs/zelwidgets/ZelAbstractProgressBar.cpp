@@ -1,0 +1,3 @@
+#include "ZelAbstractProgressBar.h"
+
+ZelAbstractProgressBar::~ZelAbstractProgressBar() = default;
