@@ -29,15 +29,16 @@ QString defaultPath()
 }
 
 // A process that is killed just when it makes its lock file leaves an empty one behind. QSettings
-// would wait half a minute for it; whoever lives fills his within microseconds.
+// would wait half a minute for it; whoever lives fills his within microseconds, on a machine with
+// too much to do within a second.
 void clearAbandonedLock(const QString &path)
 {
     const QFileInfo lockFile(path + QLatin1String(".lock"));
     if (!lockFile.isFile() || lockFile.size() > 0)
         return;
     QLockFile lock(lockFile.filePath());
-    lock.setStaleLockTime(500);
-    lock.tryLock(2000);
+    lock.setStaleLockTime(3000);
+    lock.tryLock(5000);
 }
 
 struct CloseAtExit
