@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/DialogsPage.h"
 #include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
@@ -9,6 +10,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
+#include "pages/NotificationsPage.h"
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/SizesPage.h"
@@ -86,6 +88,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dials"), text("Dials, wheels, scale"),
          text("Angles, thumb wheels, scales and groups that flip open"), QStringLiteral("gear"),
          &make<DialsPage>},
+        {QStringLiteral("notifications"), text("Notifications"),
+         text("A strip of actions in the order of their priority, triggered by index"),
+         QStringLiteral("info"), &make<NotificationsPage>},
+        {QStringLiteral("dialogs"), text("Credentials and confirmations"),
+         text("Network credentials, a new password, deleting items, the frameless dialog"),
+         QStringLiteral("lock"), &make<DialogsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
