@@ -46,7 +46,7 @@ bool ZelBorderDialog::isDropShadowEnabled() const
     return shadow_->isEnabled();
 }
 
-bool ZelBorderDialog::accept(double *number, double lowest) const
+bool ZelBorderDialog::bound(double *number, double lowest) const
 {
     if (std::isnan(*number)) {
         qWarning() << "The shadow of a dialog can't take what is no number" << objectName();
@@ -58,7 +58,7 @@ bool ZelBorderDialog::accept(double *number, double lowest) const
 
 void ZelBorderDialog::setShadowBlurRadius(double radius)
 {
-    if (!accept(&radius, 0))
+    if (!bound(&radius, 0))
         return;
     shadow_->setBlurRadius(radius);
     updateMargins();
@@ -81,7 +81,7 @@ QColor ZelBorderDialog::shadowColor() const
 
 void ZelBorderDialog::setShadowOffsetX(double offset)
 {
-    if (!accept(&offset, -largest))
+    if (!bound(&offset, -largest))
         return;
     shadow_->setXOffset(offset);
     updateMargins();
@@ -94,7 +94,7 @@ double ZelBorderDialog::shadowOffsetX() const
 
 void ZelBorderDialog::setShadowOffsetY(double offset)
 {
-    if (!accept(&offset, -largest))
+    if (!bound(&offset, -largest))
         return;
     shadow_->setYOffset(offset);
     updateMargins();

@@ -39,7 +39,7 @@ protected:
 
 private:
     /// The number within the bounds; a warning and nothing (false) if it is none.
-    bool accept(double *number, double lowest) const;
+    bool bound(double *number, double lowest) const;
     void updateMargins();
 
     QGraphicsDropShadowEffect *shadow_;

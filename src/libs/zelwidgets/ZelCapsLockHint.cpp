@@ -66,5 +66,7 @@ void ZelCapsLockHint::showHint(bool on)
         QLineEdit::TrailingPosition);
     sign_->setText(text);
     field_->setAccessibleDescription(text);
-    QToolTip::showText(field_->mapToGlobal(QPoint(0, field_->height() / 2)), text, field_);
+    // Beside the field, where it covers nothing of the dialog.
+    QToolTip::showText(field_->mapToGlobal(QPoint(field_->width(), -field_->height() / 2)), text,
+                       field_);
 }

@@ -105,7 +105,7 @@ void DialogsPage::addDeletion()
         addSection(tr("Deleting items"), tr("Enter and Escape cancel; Delete takes a click, or the "
                                             "space bar once the Tab key has reached it."));
     QHBoxLayout *row = addRow(section);
-    row->addWidget(createButton(tr("A &few..."), [this] {
+    row->addWidget(createButton(tr("A f&ew..."), [this] {
         askDeletion({tr("Brass"), tr("Oak, oiled"), tr("Frosted glass")});
     }));
     row->addWidget(createButton(tr("&Many..."), [this] {
@@ -167,7 +167,7 @@ void DialogsPage::addFrameless()
     form->addRow(tr("&Blur"), blur_);
     form->addRow(tr("To the &right"), offsetX_);
     form->addRow(tr("&Down"), offsetY_);
-    form->addRow(tr("C&olor"), color_);
+    form->addRow(tr("C&olour"), color_);
     section->addLayout(form);
     QHBoxLayout *row = addRow(section);
     row->addWidget(createButton(tr("Sho&w"), [this] { showFrameless(); }));

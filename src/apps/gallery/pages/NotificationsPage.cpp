@@ -62,7 +62,7 @@ NotificationsPage::NotificationsPage(QWidget *parent)
     addStretch();
     connect(&list_, &ZelNotificationList::changed, this, &NotificationsPage::refresh);
     refresh();
-    select(0);
+    entries_->setCurrentRow(0);
     watch(&list_, &ZelNotificationList::changed, QStringLiteral("changed"));
     leaveWheelToScrolling();
 }
@@ -96,7 +96,7 @@ void NotificationsPage::addEntries()
     row->setSpacing(8);
     row->addWidget(createButton(tr("&Add"), [this] { addSample(); }));
     needCurrent_ = {
-        createButton(tr("&Trigger"), [this] { list_.trigger(entries_->currentRow()); }),
+        createButton(tr("Tri&gger"), [this] { list_.trigger(entries_->currentRow()); }),
         createButton(tr("&Remove"),
                      [this] {
                          current_->deleteLater();
@@ -129,7 +129,7 @@ QWidget *NotificationsPage::createProperties()
     priority_ = new QSpinBox(panel);
     priority_->setRange(-99, 99);
     form->addRow(tr("Pr&iority"), priority_);
-    visible_ = new QCheckBox(tr("&Visible"), panel);
+    visible_ = new QCheckBox(tr("Vi&sible"), panel);
     form->addRow(visible_);
     toggle_ = new QCheckBox(tr("T&oggle"), panel);
     form->addRow(toggle_);
