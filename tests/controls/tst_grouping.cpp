@@ -176,7 +176,7 @@ void GroupingTest::anAdditionTellsOfItsButton()
     auto *layout = new ZelListWithAddition(QStringLiteral("Title"), QStringLiteral("Add a light"),
                                            new QListView);
     panel.setLayout(layout);
-    QSignalSpy added(layout, &ZelListWithAddition::addItem);
+    QSignalSpy added(layout, qOverload<>(&ZelListWithAddition::addItem));
     auto *button = panel.findChild<ZelToolButton *>();
     QCOMPARE(button->toolTip(), QStringLiteral("Add a light"));
     button->click();

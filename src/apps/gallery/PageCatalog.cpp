@@ -2,6 +2,7 @@
 
 #include "pages/ButtonsPage.h"
 #include "pages/CropPage.h"
+#include "pages/DialogsPage.h"
 #include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
@@ -10,6 +11,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
+#include "pages/NotificationsPage.h"
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/ProgressPage.h"
@@ -98,6 +100,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("crop"), text("Crop"),
          text("Cutting a picture to an aspect ratio, on the page and in a dialog"),
          QStringLiteral("window_expand"), &make<CropPage>},
+        {QStringLiteral("notifications"), text("Notifications"),
+         text("A strip of actions in the order of their priority, triggered by index"),
+         QStringLiteral("info"), &make<NotificationsPage>},
+        {QStringLiteral("dialogs"), text("Credentials and confirmations"),
+         text("Network credentials, a new password, deleting items, the frameless dialog"),
+         QStringLiteral("lock"), &make<DialogsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

@@ -15,7 +15,8 @@ ZelListWithAddition::ZelListWithAddition(const QString &title, const QString &to
     addButton_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/add")));
     addButton_->setToolTip(toolTip);
     addButton_->setFocusPolicy(Qt::StrongFocus);
-    connect(addButton_, &QAbstractButton::clicked, this, &ZelListWithAddition::addItem);
+    connect(addButton_, &QAbstractButton::clicked, this,
+            qOverload<>(&ZelListWithAddition::addItem));
 
     auto *row = new QHBoxLayout;
     row->addWidget(label_);

@@ -19,8 +19,11 @@ public:
     /// text.
     ZelListWithAddition(const QString &title, const QString &toolTip, QWidget *widget);
 
+    /// The one of the layout, which the signal below would hide.
+    using QVBoxLayout::addItem;
+
 Q_SIGNALS:
-    /// The add button was clicked.
+    /// The add button was clicked. Connect with qOverload<>(&ZelListWithAddition::addItem).
     void addItem();
 
 private:

@@ -76,8 +76,8 @@ void GroupingPage::addCollapsibleList()
     view->setAccessibleName(tr("All lights"));
     view->setFixedHeight(fontMetrics().height() * 7);
     auto *addition = new ZelListWithAddition(tr("All lights"), tr("Add a light"), view);
-    watch(addition, &ZelListWithAddition::addItem, QStringLiteral("addItem"));
-    connect(addition, &ZelListWithAddition::addItem, this, [this] {
+    watch(addition, qOverload<>(&ZelListWithAddition::addItem), QStringLiteral("addItem"));
+    connect(addition, qOverload<>(&ZelListWithAddition::addItem), this, [this] {
         const int row = lights_.rowCount();
         lights_.insertRow(row);
         lights_.setData(lights_.index(row), tr("Light %1").arg(row + 1));
