@@ -71,7 +71,7 @@ constexpr QLatin1String alternativeTumbleId("cam#ctrl.aTumbleAlt");
 QKeyCombination reduced(QKeyCombination key)
 {
     const bool counts = key.key() == Qt::Key_1 || key.key() == Qt::Key_2;
-    return {key.keyboardModifiers(), counts ? key.key() : Qt::Key_unknown};
+    return QKeyCombination(key.keyboardModifiers(), counts ? key.key() : Qt::Key_unknown);
 }
 
 /// The first action below the object, in the order of the children, that fits.
