@@ -19,6 +19,8 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
+#include <functional>
+
 namespace {
 
 using Item = ZelShortcutTreeItem;
@@ -45,6 +47,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     QTreeWidget *createTree();
+    void fitColumns();
     void createButtons(QVBoxLayout *layout);
     void connectParts();
 
@@ -91,12 +94,11 @@ ZelShortcutEditorWidgetPrivate::ZelShortcutEditorWidgetPrivate(ZelShortcutEditor
     connectParts();
     q->installEventFilter(this);
     tree->installEventFilter(this);
+    fitColumns();
 }
 
 QTreeWidget *ZelShortcutEditorWidgetPrivate::createTree()
 {
-    constexpr int nameChars = 34;
-    constexpr int keyChars = 22;
     auto *made = new QTreeWidget(q);
     made->setObjectName(QStringLiteral("ShortcutTree"));
     made->setAccessibleName(ZelShortcutEditorWidget::tr("Shortcuts"));
@@ -109,12 +111,19 @@ QTreeWidget *ZelShortcutEditorWidgetPrivate::createTree()
     made->setUniformRowHeights(true);
     made->setAlternatingRowColors(true);
     made->setAllColumnsShowFocus(true);
-    const int charWidth = made->fontMetrics().averageCharWidth();
-    made->setColumnWidth(Item::NameColumn, nameChars * charWidth);
-    for (const int column : {int(Item::KeyColumn), int(Item::DefaultColumn)})
-        made->setColumnWidth(column, keyChars * charWidth);
     made->setMinimumHeight(8 * made->fontMetrics().lineSpacing());
     return made;
+}
+
+/// Room for common texts in the font of the sheet.
+void ZelShortcutEditorWidgetPrivate::fitColumns()
+{
+    constexpr int nameChars = 38;
+    constexpr int keyChars = 27;
+    const int charWidth = tree->fontMetrics().averageCharWidth();
+    tree->setColumnWidth(Item::NameColumn, nameChars * charWidth);
+    for (const int column : {int(Item::KeyColumn), int(Item::DefaultColumn)})
+        tree->setColumnWidth(column, keyChars * charWidth);
 }
 
 void ZelShortcutEditorWidgetPrivate::createButtons(QVBoxLayout *layout)
@@ -163,6 +172,8 @@ void ZelShortcutEditorWidgetPrivate::connectParts()
 
 bool ZelShortcutEditorWidgetPrivate::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == tree && event->type() == QEvent::FontChange)
+        fitColumns();
     if (watched == q) {
         wasHidden = wasHidden || event->type() == QEvent::Hide;
         // What was registered or has come to life meanwhile is to be seen.
@@ -417,4 +428,7 @@ void ZelShortcutEditorWidget::record()
     } else {
         d_->panel->recordKeys();
     }
+    // The panel has taken room from the rows.
+    layout()->activate();
+    tree()->scrollToItem(tree()->currentItem());
 }

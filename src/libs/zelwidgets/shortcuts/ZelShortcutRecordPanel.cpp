@@ -9,18 +9,54 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QStyle>
 
 namespace {
 
 enum Page { IdlePage, RecordPage };
 
+/// As large as the page that it shows.
+class PageStack : public QStackedWidget
+{
+public:
+    explicit PageStack(QWidget *parent)
+        : QStackedWidget(parent)
+    {
+        connect(this, &QStackedWidget::currentChanged, this, [this] {
+            for (int i = 0; i < count(); ++i) {
+                const auto policy =
+                    i == currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+                widget(i)->setSizePolicy(policy, policy);
+            }
+            updateGeometry();
+        });
+    }
+    QSize sizeHint() const override
+    {
+        return currentWidget() ? currentWidget()->sizeHint() : QSize();
+    }
+    QSize minimumSizeHint() const override
+    {
+        return currentWidget() ? currentWidget()->minimumSizeHint() : QSize();
+    }
+    bool hasHeightForWidth() const override
+    {
+        return currentWidget() && currentWidget()->hasHeightForWidth();
+    }
+    int heightForWidth(int width) const override
+    {
+        return currentWidget() ? currentWidget()->heightForWidth(width) : -1;
+    }
+};
+
 } // namespace
 
 ZelShortcutRecordPanel::ZelShortcutRecordPanel(QWidget *parent)
     : QFrame(parent)
-    , pages_(new QStackedWidget(this))
+    , pages_(new PageStack(this))
 {
     setFrameShape(QFrame::StyledPanel);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     pages_->addWidget(createIdlePage());
     pages_->addWidget(createRecordPage());
     auto *layout = new QVBoxLayout(this);
@@ -62,7 +98,7 @@ QWidget *ZelShortcutRecordPanel::createRecordPage()
     title_ = new QLabel(page);
     title_->setTextFormat(Qt::PlainText);
     title_->setWordWrap(true);
-    recorders_ = new QStackedWidget(page);
+    recorders_ = new PageStack(page);
     keys_ = new ZelKeyRecorder(recorders_);
     keys_->setObjectName(QStringLiteral("ShortcutKeyRecorder"));
     keys_->setAccessibleName(tr("New keys"));
@@ -90,13 +126,21 @@ QWidget *ZelShortcutRecordPanel::createRecordPage()
     connect(keys_, &ZelKeyRecorder::recorded, this, &ZelShortcutRecordPanel::recorded);
     connect(keys_, &ZelKeyRecorder::finished, this, [this](const QKeySequence &sequence) {
         if (keys_->hasFocus())
-            (sequence.isEmpty() ? cancel_ : keep_)->setFocus(Qt::OtherFocusReason);
+            likelyAnswer(sequence.isEmpty())->setFocus(Qt::OtherFocusReason);
     });
     connect(gesture_, &ZelMouseRecorder::recorded, this, &ZelShortcutRecordPanel::recorded);
     connect(reassign_, &QPushButton::clicked, this, [this] { Q_EMIT accepted(true); });
     connect(keep_, &QPushButton::clicked, this, [this] { Q_EMIT accepted(false); });
     connect(cancel_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::cancelled);
     return page;
+}
+
+/// What a user who just presses Return means.
+QPushButton *ZelShortcutRecordPanel::likelyAnswer(bool isEmpty) const
+{
+    if (isEmpty)
+        return cancel_;
+    return kind_ == ZelShortcutVerdict::SameScope ? reassign_ : keep_;
 }
 
 bool ZelShortcutRecordPanel::isRecording() const
@@ -139,11 +183,6 @@ void ZelShortcutRecordPanel::recordGesture(ZelMouseAction::Category category,
 void ZelShortcutRecordPanel::beginRecording(QWidget *recorder)
 {
     recorders_->setCurrentWidget(recorder);
-    // The page is as low as what it shows.
-    for (QWidget *other : {static_cast<QWidget *>(keys_), static_cast<QWidget *>(gesture_)}) {
-        const auto policy = other == recorder ? QSizePolicy::Preferred : QSizePolicy::Ignored;
-        other->setSizePolicy(QSizePolicy::Preferred, policy);
-    }
     kind_ = ZelShortcutVerdict::Free;
     verdict_->clear();
     pages_->setCurrentIndex(RecordPage);
@@ -169,6 +208,8 @@ void ZelShortcutRecordPanel::setVerdict(const ZelShortcutVerdict &verdict)
     kind_ = verdict.kind();
     verdict_->setText(recordedText().isEmpty() ? QString() : verdict.text());
     verdict_->setProperty("warning", kind_ == ZelShortcutVerdict::SameScope);
+    verdict_->style()->unpolish(verdict_);
+    verdict_->style()->polish(verdict_);
     updateButtons();
 }
 

@@ -48,6 +48,7 @@ private:
     QPushButton *addButton(const QString &text, const char *name);
     void beginRecording(QWidget *recorder);
     void endRecording();
+    QPushButton *likelyAnswer(bool isEmpty) const;
     void updateButtons();
 
     QStackedWidget *pages_;
