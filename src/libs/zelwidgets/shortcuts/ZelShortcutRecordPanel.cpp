@@ -8,59 +8,18 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStackedWidget>
 #include <QStyle>
-
-namespace {
-
-enum Page { IdlePage, RecordPage };
-
-/// As large as the page that it shows.
-class PageStack : public QStackedWidget
-{
-public:
-    explicit PageStack(QWidget *parent)
-        : QStackedWidget(parent)
-    {
-        connect(this, &QStackedWidget::currentChanged, this, [this] {
-            for (int i = 0; i < count(); ++i) {
-                const auto policy =
-                    i == currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
-                widget(i)->setSizePolicy(policy, policy);
-            }
-            updateGeometry();
-        });
-    }
-    QSize sizeHint() const override
-    {
-        return currentWidget() ? currentWidget()->sizeHint() : QSize();
-    }
-    QSize minimumSizeHint() const override
-    {
-        return currentWidget() ? currentWidget()->minimumSizeHint() : QSize();
-    }
-    bool hasHeightForWidth() const override
-    {
-        return currentWidget() && currentWidget()->hasHeightForWidth();
-    }
-    int heightForWidth(int width) const override
-    {
-        return currentWidget() ? currentWidget()->heightForWidth(width) : -1;
-    }
-};
-
-} // namespace
 
 ZelShortcutRecordPanel::ZelShortcutRecordPanel(QWidget *parent)
     : QFrame(parent)
-    , pages_(new PageStack(this))
+    , idlePage_(createIdlePage())
+    , recordPage_(createRecordPage())
 {
     setFrameShape(QFrame::StyledPanel);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    pages_->addWidget(createIdlePage());
-    pages_->addWidget(createRecordPage());
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(pages_);
+    layout->addWidget(idlePage_);
+    layout->addWidget(recordPage_);
     setShortcut({}, {}, true);
 }
 
@@ -74,7 +33,7 @@ QPushButton *ZelShortcutRecordPanel::addButton(const QString &text, const char *
 
 QWidget *ZelShortcutRecordPanel::createIdlePage()
 {
-    auto *page = new QWidget(pages_);
+    auto *page = new QWidget(this);
     name_ = new QLabel(page);
     name_->setWordWrap(true);
     name_->setTextFormat(Qt::PlainText);
@@ -85,7 +44,7 @@ QWidget *ZelShortcutRecordPanel::createIdlePage()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(name_, 1);
     for (QPushButton *button : {record_, reset_, clear_})
-        layout->addWidget(button, 0, Qt::AlignTop);
+        layout->addWidget(button);
     connect(record_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::recordRequested);
     connect(reset_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::resetRequested);
     connect(clear_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::clearRequested);
@@ -94,17 +53,14 @@ QWidget *ZelShortcutRecordPanel::createIdlePage()
 
 QWidget *ZelShortcutRecordPanel::createRecordPage()
 {
-    auto *page = new QWidget(pages_);
+    auto *page = new QWidget(this);
     title_ = new QLabel(page);
     title_->setTextFormat(Qt::PlainText);
     title_->setWordWrap(true);
-    recorders_ = new PageStack(page);
-    keys_ = new ZelKeyRecorder(recorders_);
+    keys_ = new ZelKeyRecorder(page);
     keys_->setObjectName(QStringLiteral("ShortcutKeyRecorder"));
     keys_->setAccessibleName(tr("New keys"));
-    gesture_ = new ZelMouseRecorder(recorders_);
-    recorders_->addWidget(keys_);
-    recorders_->addWidget(gesture_);
+    gesture_ = new ZelMouseRecorder(page);
     verdict_ = new QLabel(page);
     verdict_->setObjectName(QStringLiteral("ShortcutVerdict"));
     verdict_->setTextFormat(Qt::PlainText);
@@ -120,7 +76,8 @@ QWidget *ZelShortcutRecordPanel::createRecordPage()
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(title_);
-    layout->addWidget(recorders_, 1);
+    layout->addWidget(keys_);
+    layout->addWidget(gesture_);
     layout->addLayout(buttons);
 
     connect(keys_, &ZelKeyRecorder::recorded, this, &ZelShortcutRecordPanel::recorded);
@@ -145,7 +102,7 @@ QPushButton *ZelShortcutRecordPanel::likelyAnswer(bool isEmpty) const
 
 bool ZelShortcutRecordPanel::isRecording() const
 {
-    return pages_->currentIndex() == RecordPage;
+    return !recordPage_->isHidden();
 }
 
 void ZelShortcutRecordPanel::setShortcut(const QString &name, const QString &publicText,
@@ -182,22 +139,25 @@ void ZelShortcutRecordPanel::recordGesture(ZelMouseAction::Category category,
 
 void ZelShortcutRecordPanel::beginRecording(QWidget *recorder)
 {
-    recorders_->setCurrentWidget(recorder);
+    keys_->setVisible(recorder == keys_);
+    gesture_->setVisible(recorder == gesture_);
     kind_ = ZelShortcutVerdict::Free;
     verdict_->clear();
-    pages_->setCurrentIndex(RecordPage);
+    recordPage_->show();
+    idlePage_->hide();
     updateButtons();
 }
 
 void ZelShortcutRecordPanel::endRecording()
 {
     keys_->reset();
-    pages_->setCurrentIndex(IdlePage);
+    idlePage_->show();
+    recordPage_->hide();
 }
 
 QString ZelShortcutRecordPanel::recordedText() const
 {
-    if (recorders_->currentWidget() == keys_)
+    if (!keys_->isHidden())
         return keys_->sequence().toString(QKeySequence::PortableText);
     const ZelMouseShortcut &gesture = gesture_->gesture();
     return ZelGestureChoice::isComplete(gesture) ? gesture.exportToString() : QString();
