@@ -132,6 +132,7 @@ private Q_SLOTS:
     void aReassignedKeyLeavesTheOthersOfItsScope();
     void keysOfOtherWindowsAreAllowed();
     void cancelLeavesNoTraces();
+    void aCancelledImportGivesTheGesturesBack();
     void applyStoresAndReachesTheActions();
     void theRowsAreFilteredByTextKeysAndMarks();
     void resetAndClearWorkOnARowAndOnAll();
@@ -341,7 +342,7 @@ void ShortcutEditorTest::everyKeyCanBeRecorded()
     bench.record("cam.aFrame", keys);
     QVERIFY(!bench.verdict().isEmpty());
     QCOMPARE(bench.button("ShortcutReassign")->isVisible(),
-             bench.verdict() != QStringLiteral("Not used yet"));
+             bench.verdict() != QStringLiteral("Not used by others"));
     // The recording ends by itself, on the answer that Return gives.
     QTRY_VERIFY(bench.button("ShortcutKeep")->hasFocus());
     QTest::keyClick(bench.button("ShortcutKeep"), Qt::Key_Return);
@@ -425,6 +426,18 @@ void ShortcutEditorTest::cancelLeavesNoTraces()
     QVERIFY(!ZelSettings(QStringLiteral("shortcutSettings")).hasKey(id("camQQQaFrame")));
 }
 
+void ShortcutEditorTest::aCancelledImportGivesTheGesturesBack()
+{
+    // The mode of the document is the one in force, its gestures are not.
+    Bench bench;
+    const auto *pan = ZelMouseActionSettings::instance()->findById(id("cam#ctrl.bPan"));
+    bench.editor->importText(QStringLiteral(R"([{"Id":"cam#ctrl.bPan","ZelHotkey":"!#MD#RMB#!#"},)"
+                                            R"({"CameraMoveType":0,"DollyEInf":0}])"));
+    QCOMPARE(bench.row("cam#ctrl.bPan")->shortcutInternalText(), QStringLiteral("!#MD#RMB#!#"));
+    bench.editor->cancel();
+    QCOMPARE(pan->internalShortcutTxt(), QStringLiteral("!#MD#CMB#!#"));
+}
+
 void ShortcutEditorTest::applyStoresAndReachesTheActions()
 {
     Bench bench;
@@ -504,7 +517,7 @@ void ShortcutEditorTest::gesturesAreRecordedByTheMouse_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("verdict");
     using Act = std::function<void(QWidget *)>;
-    const QString isFree = QStringLiteral("Not used yet");
+    const QString isFree = QStringLiteral("Not used by others");
     const QPoint place(10, 10);
     QTest::newRow("drag") << id("cam#ctrl.bPan") << Act([=](QWidget *pad) {
         UserInput::drag(pad, place, {40, 20}, Qt::ShiftModifier, Qt::RightButton);

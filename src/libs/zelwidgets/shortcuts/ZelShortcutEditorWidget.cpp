@@ -181,19 +181,20 @@ bool ZelShortcutEditorWidgetPrivate::eventFilter(QObject *watched, QEvent *event
             q->hasChanges() ? rows.updateScopes() : q->reload();
         return false;
     }
-    const int row = event->type() == QEvent::KeyPress ? currentRow() : -1;
-    if (row < 0)
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    if (currentRow() < 0 || (event->type() != QEvent::KeyPress && !isOverride))
         return false;
     const auto *key = static_cast<QKeyEvent *>(event);
-    if (key->modifiers() == Qt::NoModifier && key->key() == Qt::Key_Delete) {
-        setShortcut(row, {});
-        return true;
-    }
-    if (key->modifiers() == Qt::NoModifier && key->key() == Qt::Key_F2) {
+    const bool isOwn = key->key() == Qt::Key_Delete || key->key() == Qt::Key_F2;
+    if (key->modifiers() != Qt::NoModifier || !isOwn)
+        return false;
+    if (isOverride)
+        event->accept();
+    else if (key->key() == Qt::Key_Delete)
+        setShortcut(currentRow(), {});
+    else
         q->record();
-        return true;
-    }
-    return false;
+    return true;
 }
 
 void ZelShortcutEditorWidgetPrivate::rebuild(const QString &currentId)
@@ -355,6 +356,7 @@ bool ZelShortcutEditorWidget::importText(const QString &json)
         const QSignalBlocker blocker(d_->tree);
         looksRight = ZelShortcutHandler::instance()->importShortcuts(json, d_->tree);
     }
+    d_->modes->touch();
     d_->readTree(false);
     return looksRight;
 }
