@@ -167,6 +167,8 @@ void ZelShortcutRecordPanel::setVerdict(const ZelShortcutVerdict &verdict)
 {
     kind_ = verdict.kind();
     verdict_->setText(recordedText().isEmpty() ? QString() : verdict.text());
+    for (QWidget *recorder : {static_cast<QWidget *>(keys_), static_cast<QWidget *>(gesture_)})
+        recorder->setAccessibleDescription(verdict_->text());
     verdict_->setProperty("warning", kind_ == ZelShortcutVerdict::SameScope);
     verdict_->style()->unpolish(verdict_);
     verdict_->style()->polish(verdict_);
