@@ -428,7 +428,9 @@ void ShortcutEditorTest::cancelLeavesNoTraces()
 
 void ShortcutEditorTest::aCancelledImportGivesTheGesturesBack()
 {
-    // The mode of the document is the one in force, its gestures are not.
+    // The modes of the document are those in force, its gestures are not.
+    ViewCtrl::Settings::instance()->setViewMode(ViewCtrl::ViewMode::Mode0);
+    ViewCtrl::Settings::instance()->setDollyZoomInMode(ViewCtrl::DollyMouseMode::Mode0);
     Bench bench;
     const auto *pan = ZelMouseActionSettings::instance()->findById(id("cam#ctrl.bPan"));
     bench.editor->importText(QStringLiteral(R"([{"Id":"cam#ctrl.bPan","ZelHotkey":"!#MD#RMB#!#"},)"
