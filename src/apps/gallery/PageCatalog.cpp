@@ -15,6 +15,7 @@
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/ProgressPage.h"
+#include "pages/ShortcutsPage.h"
 #include "pages/SizesPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/StyleSheetPage.h"
@@ -109,6 +110,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
+        {QStringLiteral("shortcuts"), text("Shortcuts"),
+         text("The editor of keys and mouse gestures, with conflicts, import and export"),
+         QStringLiteral("gear"), &make<ShortcutsPage>},
     };
     return pages;
 }

@@ -1,0 +1,76 @@
+#include "ZelShortcut.h"
+
+#include "ZelAction.h"
+#include "ZelShortcutHandler.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QWidget>
+
+ZelShortcut::ZelShortcut(const QString &id, QString text, const QKeySequence &key, QWidget *parent,
+                         const char *member, const char *ambiguousMember)
+    : QShortcut(key, parent, member, ambiguousMember, Qt::WindowShortcut)
+    , id_(id)
+    , text_(std::move(text))
+{
+    enroll();
+}
+
+ZelShortcut::ZelShortcut(const QString &id, QAction *action, QWidget *parent, const char *member)
+    : QShortcut(action->shortcut(), parent, member)
+    , id_(id)
+    , text_(action->text())
+{
+    new ZelAction(id, action, this);
+    setKey(action->shortcut());
+    enroll();
+}
+
+ZelShortcut::ZelShortcut(ZelAction *action, QWidget *parent, const char *member)
+    : QShortcut(QKeySequence(), parent, member)
+    , id_(action->id())
+{
+    if (const QAction *qAction = action->qAction()) {
+        setKey(qAction->shortcut());
+        text_ = qAction->text();
+    }
+    enroll();
+}
+
+ZelShortcut::ZelShortcut(QAction *action, QWidget *parent, const char *member)
+    : QShortcut(action->shortcut(), parent, member)
+    , id_(action->property("iD").toString())
+    , text_(action->text())
+{
+    if (id_.isEmpty())
+        qDebug() << "Does not know action " << text_ << " with keySeq " << key();
+    else
+        enroll();
+}
+
+ZelShortcut::~ZelShortcut() = default;
+
+void ZelShortcut::enroll()
+{
+    ZelShortcutHandler::instance()->registerOrChangeShortcut(*this);
+}
+
+void ZelShortcut::setText(QString text)
+{
+    text_ = std::move(text);
+}
+
+QWidget *ZelShortcut::scope() const
+{
+    return scope_ ? scope_.data() : qobject_cast<QWidget *>(parent());
+}
+
+void ZelShortcut::setScope(QWidget *scope)
+{
+    scope_ = scope;
+}
+
+void ZelShortcut::hardChangeId(QString id)
+{
+    id_ = std::move(id);
+}

@@ -1,0 +1,270 @@
+#include "ZelShortcutHandler.h"
+
+#include "ViewCtrl.h"
+#include "ZelAction.h"
+#include "ZelHotKeyMaterials.h"
+#include "ZelMouseAction.h"
+#include "ZelMouseActionSettings.h"
+#include "ZelShortcut.h"
+#include "ZelShortcutConflictHandler.h"
+#include "ZelShortcutHandler_p.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr int cleanLimit = 1000;
+
+std::unique_ptr<ZelShortcutHandler> &registry()
+{
+    static std::unique_ptr<ZelShortcutHandler> registry;
+    return registry;
+}
+
+QString portable(const QKeySequence &key)
+{
+    return key.toString(QKeySequence::PortableText);
+}
+
+QKeySequence fromPortable(const QString &text)
+{
+    return QKeySequence::fromString(text, QKeySequence::PortableText);
+}
+
+/// The id of a live object; empty for a ZelAction that has lost its action.
+QString idOf(QObject *object)
+{
+    if (const auto *action = qobject_cast<ZelAction *>(object))
+        return action->qAction() ? action->id() : QString();
+    if (const auto *shortcut = qobject_cast<ZelShortcut *>(object))
+        return shortcut->id();
+    const auto *mouse = qobject_cast<ZelMouseAction *>(object);
+    return mouse ? mouse->id() : QString();
+}
+
+} // namespace
+
+ZelShortcutHandler::ZelShortcutHandler()
+    : d_(std::make_unique<ZelShortcutHandlerPrivate>())
+{}
+
+ZelShortcutHandler::~ZelShortcutHandler() = default;
+
+void ZelShortcutHandler::prepareInstance()
+{
+    if (!registry())
+        make();
+}
+
+void ZelShortcutHandler::make()
+{
+    init(ZelShortcutHandlerPrivate::global());
+    registry().reset(new ZelShortcutHandler);
+    registry()->initLaterCreatedShortcuts();
+    if (ZelMouseActionSettings *settings = ZelMouseActionSettings::existing())
+        settings->registerAgain();
+}
+
+ZelShortcutHandler *ZelShortcutHandler::instance()
+{
+    if (!registry()) {
+        qWarning() << "ZelShortcutHandler::prepareInstance was not called.";
+        make();
+    }
+    return registry().get();
+}
+
+void ZelShortcutHandler::destroy()
+{
+    registry().reset();
+}
+
+bool ZelShortcutHandler::isConflictHandler(const QShortcut *shortcut)
+{
+    return qobject_cast<const ZelShortcutConflictHandler *>(shortcut) != nullptr;
+}
+
+void ZelShortcutHandler::registerKeyShortcut(QString id, QString text, QKeySequence key)
+{
+    registerShortcut(std::move(id), std::move(text), portable(key));
+}
+
+QString ZelShortcutHandler::registerShortcut(QString id, QString text, QString key)
+{
+    const GlobalShortcutSettings &global = ZelShortcutHandlerPrivate::global();
+    const qsizetype dot = id.lastIndexOf(u'.');
+    if (dot < 0)
+        return key;
+    if (key == portable(Qt::Key_Escape))
+        key.clear();
+    if (!global.categoryIndex.contains(id.left(dot)))
+        return key;
+    text = global.nameOverrides.value(id, text);
+    const auto entry = d_->entries.find(id);
+    if (entry == d_->entries.end()) {
+        d_->entries.insert(id, {key, key, text});
+        return key;
+    }
+    if (!d_->systemInitialized && text.size() > entry->text.size())
+        entry->text = text;
+    return entry->currentKey;
+}
+
+void ZelShortcutHandler::registerActionOrSetShortcut(ZelAction &action)
+{
+    QAction *qAction = action.qAction();
+    if (!qAction)
+        return;
+    const QString key =
+        registerShortcut(action.id(), qAction->text(), portable(qAction->shortcut()));
+    if (ZelHotKeyMaterials::isMaterialId(action.id()) && qAction->text().isEmpty())
+        qAction->setText(d_->entries.value(action.id()).text);
+    const QKeySequence sequence = fromPortable(key);
+    if (sequence != qAction->shortcut())
+        qAction->setShortcut(sequence);
+    d_->addLiveObject(&action, sequence);
+}
+
+void ZelShortcutHandler::registerOrChangeShortcut(ZelShortcut &shortcut)
+{
+    const QString key = registerShortcut(shortcut.id(), shortcut.text(), portable(shortcut.key()));
+    if (ZelHotKeyMaterials::isMaterialId(shortcut.id()) && shortcut.text().isEmpty())
+        shortcut.setText(d_->entries.value(shortcut.id()).text);
+    const QKeySequence sequence = fromPortable(key);
+    // A handler of conflicts may have taken the key away for the time being.
+    if (sequence != shortcut.key() && !d_->isHeld(&shortcut, sequence))
+        shortcut.setKey(sequence);
+    d_->addLiveObject(&shortcut, sequence);
+}
+
+void ZelShortcutHandler::registerOrChangeMouseAction(ZelMouseAction &action)
+{
+    const QString asked = action.internalShortcutTxt();
+    const QString decided = registerShortcut(action.id(), action.text(), asked);
+    if (decided != asked)
+        action.setShortcutFromText(decided);
+    const auto entry = d_->entries.find(action.id());
+    if (entry != d_->entries.end())
+        entry->category = action.getCategory();
+    d_->addLiveObject(&action);
+}
+
+QObject *ZelShortcutHandler::findShortcut(QString id) const
+{
+    for (const QPointer<QObject> &object : std::as_const(d_->liveObjects)) {
+        if (object && idOf(object) == id)
+            return object;
+    }
+    return nullptr;
+}
+
+QString ZelShortcutHandler::getShortcutInfo(const QString &id)
+{
+    return d_->entries[id].currentKey;
+}
+
+bool ZelShortcutHandler::hasDefaultShortcut(const QString &id) const
+{
+    const auto entry = d_->entries.constFind(id);
+    return entry != d_->entries.constEnd() && entry->currentKey == entry->defaultKey;
+}
+
+bool ZelShortcutHandler::isLivingZelShortcut(const QAction &action) const
+{
+    const QString id = action.property("iD").toString();
+    if (id.isEmpty())
+        return false;
+    for (const QPointer<QObject> &object : std::as_const(d_->liveObjects)) {
+        const auto *shortcut = qobject_cast<ZelShortcut *>(object.data());
+        if (shortcut && shortcut->id() == id)
+            return true;
+    }
+    return false;
+}
+
+bool ZelShortcutHandler::systemInitialized() const
+{
+    return d_->systemInitialized;
+}
+
+void ZelShortcutHandler::setSystemInitialized(QWidget *mainWidget)
+{
+    ZelShortcutHandlerPrivate::mainWidget() = mainWidget;
+    d_->systemInitialized = true;
+    d_->rebuildConflictHandlers();
+}
+
+bool ZelShortcutHandler::changeShortcut(QString id, QString key, bool apply)
+{
+    const auto entry = d_->entries.find(id);
+    if (entry == d_->entries.end())
+        return false;
+    entry->currentKey = key;
+    if (apply)
+        applyCurrentSettingsToShortcuts();
+    return true;
+}
+
+void ZelShortcutHandler::applyCurrentSettingsToShortcuts()
+{
+    // Handlers give their members the old key back when they go.
+    d_->deleteConflictHandlers();
+    const QList<QPointer<QObject>> objects = std::exchange(d_->liveObjects, {});
+    {
+        const QScopedValueRollback<bool> batch(d_->batchUpdate, true);
+        for (const QPointer<QObject> &object : objects) {
+            if (auto *action = qobject_cast<ZelAction *>(object.data()))
+                registerActionOrSetShortcut(*action);
+            else if (auto *shortcut = qobject_cast<ZelShortcut *>(object.data()))
+                registerOrChangeShortcut(*shortcut);
+            else if (auto *mouse = qobject_cast<ZelMouseAction *>(object.data()))
+                registerOrChangeMouseAction(*mouse);
+        }
+    }
+    ViewCtrl::Settings::instance()->applyGestures();
+    d_->rebuildConflictHandlers();
+}
+
+void ZelShortcutHandler::resetAllOnlyCallThisFromAutoTests()
+{
+    d_->deleteConflictHandlers();
+    d_ = std::make_unique<ZelShortcutHandlerPrivate>();
+}
+
+ZelShortcutHandlerPrivate::~ZelShortcutHandlerPrivate()
+{
+    deleteConflictHandlers();
+}
+
+GlobalShortcutSettings &ZelShortcutHandlerPrivate::global()
+{
+    static GlobalShortcutSettings settings;
+    return settings;
+}
+
+QPointer<QWidget> &ZelShortcutHandlerPrivate::mainWidget()
+{
+    static QPointer<QWidget> widget;
+    return widget;
+}
+
+void ZelShortcutHandlerPrivate::removeDead()
+{
+    liveObjects.removeIf([](const QPointer<QObject> &object) { return object.isNull(); });
+}
+
+void ZelShortcutHandlerPrivate::addLiveObject(QObject *object, const QKeySequence &key)
+{
+    if (liveObjects.size() > cleanLimit)
+        removeDead();
+    if (liveObjects.size() > cleanLimit)
+        qWarning() << "Clean limit (or other) issue in ZelShortcuthandler";
+    liveObjects.append(object);
+    if (batchUpdate || !systemInitialized)
+        return;
+    lookForConflict(object);
+    if (!key.isEmpty())
+        objectsByKey[key].append(object);
+}

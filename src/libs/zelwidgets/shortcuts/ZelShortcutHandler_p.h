@@ -1,0 +1,75 @@
+#pragma once
+
+#include "ZelShortcutHandler.h"
+
+#include <QHash>
+#include <QMap>
+#include <QPointer>
+#include <QWidget>
+
+class ZelShortcutConflictHandler;
+
+/// What the registry knows of an id.
+struct ShortcutEntry
+{
+    static constexpr int keyboard = 3;
+
+    QString currentKey;
+    QString defaultKey;
+    QString text;
+    /// A ZelMouseAction::Category, or keyboard.
+    int category = keyboard;
+    unsigned char reserved = 0;
+};
+
+using ShortcutEntries = QMap<QString, ShortcutEntry>;
+
+/// The keys of the settings store.
+namespace ZelShortcutKeys {
+
+QString group();
+QString viewMode();
+/// The store's key of an id.
+QString encoded(QString id);
+/// The id of a material's key: the first mark of a dot is read back.
+QString materialId(QString key);
+
+} // namespace ZelShortcutKeys
+
+class ZelShortcutHandlerPrivate
+{
+public:
+    class Import;
+
+    ~ZelShortcutHandlerPrivate();
+
+    ShortcutEntries entries;
+    QList<QPointer<QObject>> liveObjects;
+    QList<QPointer<ZelShortcutConflictHandler>> conflictHandlers;
+    /// The handlers by their keys.
+    QHash<QKeySequence, QPointer<ZelShortcutConflictHandler>> handlersByKey;
+    /// The live objects by the keys that they came with.
+    QHash<QKeySequence, QList<QPointer<QObject>>> objectsByKey;
+    bool systemInitialized = false;
+    bool batchUpdate = false;
+
+    static GlobalShortcutSettings &global();
+    static QPointer<QWidget> &mainWidget();
+
+    void addLiveObject(QObject *object, const QKeySequence &key = {});
+    void removeDead();
+
+    void restoreStoredKeys();
+
+    // Conflicts
+    void deleteConflictHandlers();
+    void lookForConflict(QObject *object);
+    void rebuildConflictHandlers();
+    ZelShortcutConflictHandler *handlerOf(const QKeySequence &key) const;
+    /// Whether the handler of the key has the object.
+    bool isHeld(const QObject *object, const QKeySequence &key) const;
+
+private:
+    void makeHandler(const QList<QObject *> &group);
+    void enterHandler(ZelShortcutConflictHandler *handler);
+};
