@@ -1,6 +1,8 @@
 #include "PageCatalog.h"
 
+#include "pages/ActionsPage.h"
 #include "pages/ButtonsPage.h"
+#include "pages/ConflictsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
@@ -8,6 +10,7 @@
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/PlainWidgetsPage.h"
+#include "pages/ShortcutsPage.h"
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
@@ -69,6 +72,15 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
+        {QStringLiteral("shortcuts"), text("Shortcuts"),
+         text("The editor of keys and mouse gestures, with conflicts, import and export"),
+         QStringLiteral("gear"), &make<ShortcutsPage>},
+        {QStringLiteral("conflicts"), text("Conflicts"),
+         text("Views and a tool window that share keys; who is meant, and why"),
+         QStringLiteral("warning"), &make<ConflictsPage>},
+        {QStringLiteral("actions"), text("Actions"),
+         text("States shared by menu, buttons and tool bar, hot keys off, changes from a thread"),
+         QStringLiteral("check"), &make<ActionsPage>},
     };
     return pages;
 }

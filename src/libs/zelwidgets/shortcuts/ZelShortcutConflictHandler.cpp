@@ -203,9 +203,11 @@ void ZelShortcutConflictHandler::decide()
     if (found.isEmpty()) {
         resend(QStringLiteral("unknown"), true);
     } else if (!leavesDeleteToView(found.first(), place)) {
-        const std::optional<Candidate> chosen = best(withoutDoubles(found));
-        if (chosen && chosen->member.enabled())
-            chosen->member.fire();
+        const Choice choice = choose(withoutDoubles(found));
+        if (choice.rival)
+            report(choice.best, *choice.rival);
+        else if (choice.best.member.enabled())
+            choice.best.member.fire();
     }
     if (self)
         --deciding_;
@@ -243,8 +245,8 @@ ZelShortcutConflictHandler::withoutDoubles(QList<Candidate> candidates)
     return candidates;
 }
 
-std::optional<ZelShortcutConflictHandler::Candidate>
-ZelShortcutConflictHandler::best(const QList<Candidate> &candidates)
+ZelShortcutConflictHandler::Choice
+ZelShortcutConflictHandler::choose(const QList<Candidate> &candidates)
 {
     Candidate best = candidates.first();
     for (const Candidate &next : candidates.mid(1)) {
@@ -253,13 +255,36 @@ ZelShortcutConflictHandler::best(const QList<Candidate> &candidates)
         if (!isSameThing && (id != best.member.id() || isOfEachView(id))) {
             if (next.score > best.score)
                 break;
-            report(best, next);
-            return std::nullopt;
+            return {best, next};
         }
         if (!best.member.enabled() && next.member.enabled())
             best = next;
     }
-    return best;
+    return {best, std::nullopt};
+}
+
+QList<ZelConflictStanding> ZelShortcutConflictHandler::standings() const
+{
+    QList<ZelConflictStanding> standings;
+    QWidget *focus = QApplication::focusWidget();
+    QWidget *place = focus ? focus : QApplication::activeWindow();
+    const QList<Candidate> found = place ? candidates(focus, place) : QList<Candidate>();
+    std::optional<Choice> choice;
+    if (!found.isEmpty())
+        choice = choose(withoutDoubles(found));
+    for (const Candidate &candidate : found) {
+        const ConflictMember &member = candidate.member;
+        const bool isMeant = !choice->rival && member.isSame(choice->best.member);
+        standings.append({member.id(), member.text(), candidate.score, member.enabled(), isMeant});
+    }
+    for (const ConflictMember &member : members_) {
+        const bool isFound = std::any_of(found.begin(), found.end(), [&member](const auto &other) {
+            return other.member.isSame(member);
+        });
+        if (!isFound)
+            standings.append({member.id(), member.text(), {}, member.enabled(), false});
+    }
+    return standings;
 }
 
 bool ZelShortcutConflictHandler::leavesDeleteToView(const Candidate &best, const QWidget *place)

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+struct ZelConflictStanding;
+
 class QEvent;
 
 /// Takes the place of several live objects that have one key, and decides at each press by focus
@@ -31,6 +33,9 @@ public:
     /// Gives the members their keys back and goes, at once or when the present press is over.
     void dismiss();
 
+    /// How the members stand to a press of the key now.
+    QList<ZelConflictStanding> standings() const;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public Q_SLOTS:
@@ -44,14 +49,20 @@ private:
         ConflictMember member;
     };
 
+    struct Choice
+    {
+        Candidate best;
+        std::optional<Candidate> rival;
+    };
+
     ZelShortcutConflictHandler(const QKeySequence &key, QWidget *parent);
     void release();
     void giveBack(ConflictMember &member, const QKeySequence &key);
     void removeDead();
     QList<Candidate> candidates(QWidget *focus, QWidget *place) const;
     static QList<Candidate> withoutDoubles(QList<Candidate> candidates);
-    /// The one to fire; nothing where the order is not clear.
-    static std::optional<Candidate> best(const QList<Candidate> &candidates);
+    /// The one to fire and, where the order is not clear, the one that stands against it.
+    static Choice choose(const QList<Candidate> &candidates);
     bool leavesDeleteToView(const Candidate &best, const QWidget *place);
     bool resend(const QString &id, bool force, int key = -1);
     static void report(const Candidate &a, const Candidate &b);

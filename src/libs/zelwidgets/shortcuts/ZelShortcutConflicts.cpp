@@ -4,10 +4,10 @@
 #include "ZelShortcut.h"
 #include "ZelShortcutConflictHandler.h"
 #include "ZelShortcutHandler_p.h"
+#include "ZelShortcutScopes.h"
 
 #include <ZelWidgets/GlobalEventFilter>
 
-#include <QMenu>
 #include <QScopedValueRollback>
 #include <QSet>
 
@@ -42,15 +42,8 @@ QSet<QWidget *> places(const QList<QPointer<QObject>> &objects, const QString &i
     for (const QPointer<QObject> &object : objects) {
         const ConflictMember member(object);
         QWidget *scope = member.isAlive() && member.id() == id ? member.scope() : nullptr;
-        if (!scope)
-            continue;
-        places << scope;
-        QWidget *window = scope->window();
-        places << window;
-        while (qobject_cast<QMenu *>(window) && window->parentWidget()) {
-            window = window->parentWidget()->window();
-            places << window;
-        }
+        if (scope)
+            places += ZelShortcutScopes::places(scope);
     }
     return places;
 }
@@ -175,6 +168,12 @@ bool ZelShortcutHandler::activateConflictHandlerShortcut(const QKeySequence &key
     if (handler)
         handler->decide();
     return handler != nullptr;
+}
+
+QList<ZelConflictStanding> ZelShortcutHandler::conflictStandings(const QKeySequence &key) const
+{
+    const ZelShortcutConflictHandler *handler = d_->handlerOf(key);
+    return handler ? handler->standings() : QList<ZelConflictStanding>();
 }
 
 bool ZelShortcutHandler::hasScopeConflictKey(QString idA, QString idB) const
