@@ -252,12 +252,13 @@ QPointer<QWidget> &ZelShortcutHandlerPrivate::mainWidget()
 
 void ZelShortcutHandlerPrivate::removeDead()
 {
+    hasDead = false;
     liveObjects.removeIf([](const QPointer<QObject> &object) { return object.isNull(); });
 }
 
 void ZelShortcutHandlerPrivate::addLiveObject(QObject *object)
 {
-    if (liveObjects.size() > cleanLimit)
+    if (liveObjects.size() > cleanLimit && hasDead)
         removeDead();
     if (liveObjects.size() > cleanLimit)
         qWarning() << "Clean limit (or other) issue in ZelShortcuthandler";

@@ -52,6 +52,9 @@ public:
     QHash<QKeySequence, QList<QPointer<QObject>>> objectsByKey;
     bool systemInitialized = false;
     bool batchUpdate = false;
+    /// A live object has died since the dead ones were last removed. The objects tell themselves,
+    /// also when there is no registry any more.
+    static inline bool hasDead = false;
 
     static GlobalShortcutSettings &global();
     static QPointer<QWidget> &mainWidget();
