@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QMap>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 class ZelShortcutConflictHandler;
@@ -66,6 +67,8 @@ public:
 
     // Conflicts
     void deleteConflictHandlers();
+    /// Those with a member that is to have another key.
+    void deleteOutdatedHandlers();
     void lookForConflict(QObject *object);
     void rebuildConflictHandlers();
     ZelShortcutConflictHandler *handlerOf(const QKeySequence &key) const;
@@ -77,4 +80,7 @@ private:
     using Group = QList<QPointer<QObject>>;
     void rememberKey(QObject *object, const QKeySequence &key);
     void makeHandler(Group group);
+    void deleteHandlersBut(const QSet<const ZelShortcutConflictHandler *> &kept);
+    /// The live objects by their keys, those that are lent to handlers included.
+    QList<Group> groupByKeys();
 };
