@@ -7,6 +7,9 @@
 #include <ZelWidgets/ZelShortcutHandler>
 
 #include <QAction>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMenuBar>
 
 class TestConflictLifetimes : public KeyDeskTest
@@ -17,6 +20,7 @@ private Q_SLOTS:
     void givesEverythingBack();
     void givesAWrappedActionBack();
     void takesNewObjectsIn();
+    void remakesOnlyWhatChanges();
     void firesAPairOnce_data();
     void firesAPairOnce();
     void survivesItsSlots_data();
@@ -87,6 +91,44 @@ void TestConflictLifetimes::takesNewObjectsIn()
     QCOMPARE(pressed(), Names{one});
     registry().applyCurrentSettingsToShortcuts();
     QCOMPARE(handlerCount(desk_->window()), 0);
+    QCOMPARE(pressed(), Names{one});
+}
+
+void TestConflictLifetimes::remakesOnlyWhatChanges()
+{
+    const QKeySequence ctrlZ(Qt::CTRL | Qt::Key_Z);
+    const QKeySequence ctrlY(Qt::CTRL | Qt::Key_Y);
+    ZelAction *first = desk_->action(idA, one, ctrlD, desk_->left());
+    ZelShortcut *second = desk_->shortcut(idB, two, ctrlD, desk_->right());
+    for (const char *id : {"cam.cThird", "cam.dFourth"})
+        desk_->action(QLatin1String(id), QLatin1String(id), ctrlY, desk_->left());
+    start();
+    const auto handlers = desk_->window()->findChildren<ZelShortcutConflictHandler *>();
+    QCOMPARE(handlers.size(), 2);
+    const QPointer<ZelShortcutConflictHandler> changed(handlers[0]);
+    const QPointer<ZelShortcutConflictHandler> kept(handlers[1]);
+    QCOMPARE(changed->key(), ctrlD);
+    registry().applyCurrentSettingsToShortcuts();
+    QVERIFY(changed && kept);
+    // Another key for the second one, by way of a document.
+    QJsonArray document =
+        QJsonDocument::fromJson(registry().exportShortcuts(nullptr).toUtf8()).array();
+    for (QJsonValueRef value : document) {
+        QJsonObject object = value.toObject();
+        if (!object.toVariantMap().values().contains(idB))
+            continue;
+        for (const QString &field : object.keys()) {
+            if (object.value(field) == ctrlD.toString())
+                object.insert(field, ctrlZ.toString());
+        }
+        value = object;
+    }
+    QVERIFY(
+        registry().importShortcuts(QString::fromUtf8(QJsonDocument(document).toJson()), nullptr));
+    QVERIFY(!changed && kept);
+    QCOMPARE(second->key(), ctrlZ);
+    QCOMPARE(first->qAction()->shortcutContext(), Qt::WindowShortcut);
+    QCOMPARE(pressed(Qt::Key_Z), Names{two});
     QCOMPARE(pressed(), Names{one});
 }
 
