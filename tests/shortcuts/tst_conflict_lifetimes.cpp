@@ -20,6 +20,7 @@ private Q_SLOTS:
     void givesEverythingBack();
     void givesAWrappedActionBack();
     void takesNewObjectsIn();
+    void endsWithItsMembers();
     void remakesOnlyWhatChanges();
     void firesAPairOnce_data();
     void firesAPairOnce();
@@ -92,6 +93,18 @@ void TestConflictLifetimes::takesNewObjectsIn()
     registry().applyCurrentSettingsToShortcuts();
     QCOMPARE(handlerCount(desk_->window()), 0);
     QCOMPARE(pressed(), Names{one});
+}
+
+void TestConflictLifetimes::endsWithItsMembers()
+{
+    auto *first = desk_->action(idA, one, ctrlD, desk_->left());
+    auto *second = desk_->shortcut(idB, two, ctrlD, desk_->right());
+    start();
+    QCOMPARE(handlerCount(desk_->window()), 1);
+    delete first;
+    delete second;
+    registry().applyCurrentSettingsToShortcuts();
+    QCOMPARE(handlerCount(desk_->window()), 0);
 }
 
 void TestConflictLifetimes::remakesOnlyWhatChanges()

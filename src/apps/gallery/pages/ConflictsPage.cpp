@@ -4,6 +4,7 @@
 #include <ZelWidgets/ZelShortcutHandler>
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -34,8 +35,8 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setFrameStyle(StyledPanel | Plain);
         auto *layout = new QVBoxLayout(this);
-        layout->setAlignment(Qt::AlignTop);
         layout->addWidget(label_);
+        layout->addStretch(1);
     }
 
 protected:
@@ -105,7 +106,7 @@ void ConflictsPage::addViews()
     list->setFixedHeight(list->sizeHintForRow(0) * 4);
     list->installEventFilter(this);
     left->layout()->addWidget(list);
-    toolButton_ = new QPushButton(tr("&Tool window"), this);
+    toolButton_ = new QPushButton(tr("T&ool window"), this);
     toolButton_->setCheckable(true);
     toolButton_->installEventFilter(this);
     connect(toolButton_, &QPushButton::toggled, this, [this](bool on) {
@@ -171,7 +172,8 @@ void ConflictsPage::addTable()
 
 bool ConflictsPage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
+    // The event comes by the parents of the one with the focus, too.
+    if (event->type() == QEvent::ShortcutOverride && watched == QApplication::focusWidget()) {
         const auto *press = static_cast<QKeyEvent *>(event);
         showStandings(QKeySequence(press->keyCombination()));
     } else if (watched == toolWindow_ && event->type() == QEvent::Close) {

@@ -8,6 +8,7 @@
 
 #include <ZelWidgets/GlobalEventFilter>
 
+#include <QAction>
 #include <QScopedValueRollback>
 #include <QSet>
 
@@ -19,7 +20,10 @@ constexpr qsizetype handlerLimit = 3001;
 
 QKeySequence keyOf(QObject *object)
 {
-    return object ? ConflictMember(object).key() : QKeySequence();
+    if (const auto *action = qobject_cast<ZelAction *>(object))
+        return action->qAction() ? action->qAction()->shortcut() : QKeySequence();
+    const auto *shortcut = qobject_cast<ZelShortcut *>(object);
+    return shortcut ? shortcut->key() : QKeySequence();
 }
 
 /// Whether any two of the objects could be meant by one key.
@@ -97,7 +101,7 @@ void ZelShortcutHandlerPrivate::deleteHandlersBut(
     // Each stays in the list until all is given back, for those who apply keys on hearing of that.
     const QList<QPointer<ZelShortcutConflictHandler>> handlers = conflictHandlers;
     for (const QPointer<ZelShortcutConflictHandler> &handler : handlers) {
-        if (!handler || kept.contains(handler))
+        if (!handler || (kept.contains(handler) && !handler->objects().isEmpty()))
             continue;
         if (handlerOf(handler->key()) == handler)
             handlersByKey.remove(handler->key());
@@ -168,12 +172,16 @@ QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
 {
     QHash<const QObject *, QKeySequence> lent;
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
-        for (const QObject *object : handler ? handler->objects() : QList<QObject *>())
-            lent.insert(object, handler->key());
+        for (const QObject *object : handler ? handler->objects() : QList<QObject *>()) {
+            if (qobject_cast<const ZelShortcut *>(object))
+                lent.insert(object, handler->key());
+        }
     }
     QHash<QKeySequence, qsizetype> positions;
     QList<Group> groups;
     QSet<QObject *> seen;
+    positions.reserve(liveObjects.size());
+    seen.reserve(liveObjects.size());
     for (const QPointer<QObject> &object : std::as_const(liveObjects)) {
         QKeySequence key = keyOf(object);
         if (key.isEmpty())
@@ -190,6 +198,7 @@ QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
         }
     }
     objectsByKey.clear();
+    objectsByKey.reserve(groups.size());
     for (auto position = positions.constBegin(); position != positions.constEnd(); ++position)
         objectsByKey.insert(position.key(), groups[*position]);
     return groups;
