@@ -1,6 +1,6 @@
 #include "ZelAction.h"
 
-#include "ZelShortcutHandler.h"
+#include "ZelShortcutHandler_p.h"
 
 #include <QAction>
 #include <QEvent>
@@ -43,7 +43,13 @@ ZelAction::ZelAction(const QString &id, QAction *action, QObject *parent)
     setUp();
 }
 
-ZelAction::~ZelAction() = default;
+ZelAction::~ZelAction()
+{
+    ZelShortcutHandlerPrivate::hasDead = true;
+    // Handlers of conflicts give the action its context back once they hear of this end.
+    if (action_)
+        action_->disconnect(this);
+}
 
 void ZelAction::setUp()
 {

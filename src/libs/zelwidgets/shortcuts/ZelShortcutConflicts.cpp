@@ -6,6 +6,10 @@
 #include "ZelShortcutHandler_p.h"
 #include "ZelShortcutScopes.h"
 
+#include <ZelWidgets/GlobalEventFilter>
+
+#include <QAction>
+#include <QScopedValueRollback>
 #include <QSet>
 
 #include <algorithm>
@@ -14,16 +18,25 @@ namespace {
 
 constexpr qsizetype handlerLimit = 3001;
 
-/// Whether the two are a shortcut and the action that it has made of its own.
-bool isOwnPair(const QObject *a, const QObject *b)
-{
-    return (a->parent() == b && qobject_cast<const ZelShortcut *>(b)) ||
-           (b->parent() == a && qobject_cast<const ZelShortcut *>(a));
-}
-
 QKeySequence keyOf(QObject *object)
 {
-    return object ? ConflictMember(object).key() : QKeySequence();
+    if (const auto *action = qobject_cast<ZelAction *>(object))
+        return action->qAction() ? action->qAction()->shortcut() : QKeySequence();
+    const auto *shortcut = qobject_cast<ZelShortcut *>(object);
+    return shortcut ? shortcut->key() : QKeySequence();
+}
+
+/// Whether any two of the objects could be meant by one key.
+bool areSeveralThings(const QList<QPointer<QObject>> &objects)
+{
+    for (qsizetype at = 0; at < objects.size(); ++at) {
+        const ConflictMember member(objects[at]);
+        for (qsizetype other = at + 1; other < objects.size(); ++other) {
+            if (!member.isSameThing(ConflictMember(objects[other])))
+                return true;
+        }
+    }
+    return false;
 }
 
 /// The windows that the live objects of an id work in, and the widgets that they belong to.
@@ -52,20 +65,51 @@ bool ZelShortcutHandlerPrivate::isHeld(const QObject *object, const QKeySequence
     return handler && handler->holds(object);
 }
 
-void ZelShortcutHandlerPrivate::enterHandler(ZelShortcutConflictHandler *handler)
+bool ZelShortcutHandlerPrivate::isHeldNow(const QObject *object, const QKeySequence &key)
 {
-    conflictHandlers.append(handler);
-    handlersByKey.insert(handler->key(), handler);
+    return ZelShortcutHandler::instance()->d_->isHeld(object, key);
 }
 
 void ZelShortcutHandlerPrivate::deleteConflictHandlers()
 {
-    handlersByKey.clear();
-    for (const QPointer<ZelShortcutConflictHandler> &handler :
-         std::exchange(conflictHandlers, {})) {
-        if (handler)
-            handler->dismiss();
+    deleteHandlersBut({});
+}
+
+void ZelShortcutHandlerPrivate::deleteOutdatedHandlers()
+{
+    QSet<const ZelShortcutConflictHandler *> kept;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        if (!handler)
+            continue;
+        const QString key = handler->key().toString(QKeySequence::PortableText);
+        const QList<QObject *> objects = handler->objects();
+        const bool isInForce = std::all_of(objects.begin(), objects.end(), [&](QObject *object) {
+            const auto entry = entries.constFind(ConflictMember(object).id());
+            return entry == entries.constEnd() || entry->currentKey == key;
+        });
+        if (isInForce)
+            kept << handler;
     }
+    deleteHandlersBut(kept);
+}
+
+void ZelShortcutHandlerPrivate::deleteHandlersBut(
+    const QSet<const ZelShortcutConflictHandler *> &kept)
+{
+    // Objects that are made meanwhile must not get hold of those that are still to be given back.
+    const QScopedValueRollback<bool> batch(batchUpdate, true);
+    // Each stays in the list until all is given back, for those who apply keys on hearing of that.
+    const QList<QPointer<ZelShortcutConflictHandler>> handlers = conflictHandlers;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : handlers) {
+        if (!handler || (kept.contains(handler) && !handler->objects().isEmpty()))
+            continue;
+        if (handlerOf(handler->key()) == handler)
+            handlersByKey.remove(handler->key());
+        handler->dismiss();
+    }
+    conflictHandlers.removeIf([](const QPointer<ZelShortcutConflictHandler> &handler) {
+        return !handler || handler->objects().isEmpty();
+    });
 }
 
 void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
@@ -77,45 +121,74 @@ void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
         rebuildConflictHandlers();
         return;
     }
-    ZelShortcutConflictHandler *handler = handlerOf(key);
-    if (handler) {
+    rememberKey(object, key);
+    if (ZelShortcutConflictHandler *handler = handlerOf(key)) {
         handler->add(object);
         return;
     }
-    QList<QObject *> group{object};
+    Group group;
     for (const QPointer<QObject> &other : objectsByKey.value(key)) {
-        if (other && other != object && keyOf(other) == key)
+        if (keyOf(other) == key && !group.contains(other))
             group.append(other);
     }
     makeHandler(group);
 }
 
-/// A handler of all objects of the group, which have one key.
-void ZelShortcutHandlerPrivate::makeHandler(const QList<QObject *> &group)
+void ZelShortcutHandlerPrivate::rememberKey(QObject *object, const QKeySequence &key)
 {
-    if (group.size() < 2 || (group.size() == 2 && isOwnPair(group[0], group[1])))
-        return;
-    ZelShortcutConflictHandler *handler = ZelShortcutConflictHandler::make(group[0], group[1]);
-    if (!handler)
-        return;
-    for (QObject *object : group.mid(2))
-        handler->add(object);
-    enterHandler(handler);
+    Group &group = objectsByKey[key];
+    // Now and then, so that views that come and go leave nothing behind.
+    const bool isPowerOfTwo = (group.size() & (group.size() - 1)) == 0;
+    if (isPowerOfTwo)
+        group.removeIf([](const QPointer<QObject> &other) { return other.isNull(); });
+    group.append(object);
 }
 
-void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
+/// A handler of all objects of the group, which have one key.
+void ZelShortcutHandlerPrivate::makeHandler(Group group)
 {
-    deleteConflictHandlers();
-    objectsByKey.clear();
+    group.removeIf([](const QPointer<QObject> &object) { return keyOf(object).isEmpty(); });
+    if (group.size() < 2 || !areSeveralThings(group))
+        return;
+    // Whoever hears of the changed actions may end objects, and enter new ones.
+    QPointer<ZelShortcutConflictHandler> handler = handlerOf(keyOf(group[0]));
+    if (!handler) {
+        handler = ZelShortcutConflictHandler::make(group[0], group[1]);
+        if (!handler)
+            return;
+        // Handlers may have to hand on the key that was pressed.
+        if (conflictHandlers.isEmpty())
+            GlobalEventFilter::instance();
+        conflictHandlers.append(handler);
+        handlersByKey.insert(handler->key(), handler);
+    }
+    for (const QPointer<QObject> &object : group) {
+        if (handler && keyOf(object) == handler->key())
+            handler->add(object);
+    }
+}
+
+QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
+{
+    QHash<const QObject *, QKeySequence> lent;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        for (const QObject *object : handler ? handler->objects() : QList<QObject *>()) {
+            if (qobject_cast<const ZelShortcut *>(object))
+                lent.insert(object, handler->key());
+        }
+    }
     QHash<QKeySequence, qsizetype> positions;
-    QList<QList<QObject *>> groups;
+    QList<Group> groups;
     QSet<QObject *> seen;
+    positions.reserve(liveObjects.size());
+    seen.reserve(liveObjects.size());
     for (const QPointer<QObject> &object : std::as_const(liveObjects)) {
-        const QKeySequence key = keyOf(object);
+        QKeySequence key = keyOf(object);
+        if (key.isEmpty())
+            key = lent.value(object);
         if (key.isEmpty() || seen.contains(object))
             continue;
         seen << object;
-        objectsByKey[key].append(object);
         const auto position = positions.constFind(key);
         if (position != positions.constEnd()) {
             groups[*position].append(object);
@@ -124,7 +197,33 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
             groups.append({object});
         }
     }
-    for (const QList<QObject *> &group : std::as_const(groups))
+    objectsByKey.clear();
+    objectsByKey.reserve(groups.size());
+    for (auto position = positions.constBegin(); position != positions.constEnd(); ++position)
+        objectsByKey.insert(position.key(), groups[*position]);
+    return groups;
+}
+
+/// Handlers that would come out the same stay: taking an action out of Qt's map and putting it back
+/// takes time that grows with the number of all shortcuts.
+void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
+{
+    QList<Group> groups = groupByKeys();
+    QHash<const QObject *, ZelShortcutConflictHandler *> handlerOfFirst;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        if (handler && !handler->objects().isEmpty())
+            handlerOfFirst.insert(handler->objects().constFirst(), handler);
+    }
+    QSet<const ZelShortcutConflictHandler *> kept;
+    groups.removeIf([&](const Group &group) {
+        const ZelShortcutConflictHandler *handler = handlerOfFirst.value(group.constFirst());
+        const bool isKept = handler && group.size() > 1 && handler->isFor(group);
+        if (isKept)
+            kept << handler;
+        return isKept;
+    });
+    deleteHandlersBut(kept);
+    for (const Group &group : std::as_const(groups))
         makeHandler(group);
 }
 
@@ -134,6 +233,12 @@ bool ZelShortcutHandler::activateConflictHandlerShortcut(const QKeySequence &key
     if (handler)
         handler->decide();
     return handler != nullptr;
+}
+
+QList<ZelConflictStanding> ZelShortcutHandler::conflictStandings(const QKeySequence &key) const
+{
+    const ZelShortcutConflictHandler *handler = d_->handlerOf(key);
+    return handler ? handler->standings() : QList<ZelConflictStanding>();
 }
 
 bool ZelShortcutHandler::hasScopeConflictKey(QString idA, QString idB) const

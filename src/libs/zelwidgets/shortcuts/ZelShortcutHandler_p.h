@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QMap>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 class ZelShortcutConflictHandler;
@@ -52,24 +53,34 @@ public:
     QHash<QKeySequence, QList<QPointer<QObject>>> objectsByKey;
     bool systemInitialized = false;
     bool batchUpdate = false;
+    /// A live object has died since the dead ones were last removed. The objects tell themselves,
+    /// also when there is no registry any more.
+    static inline bool hasDead = false;
 
     static GlobalShortcutSettings &global();
     static QPointer<QWidget> &mainWidget();
 
-    void addLiveObject(QObject *object, const QKeySequence &key = {});
+    void addLiveObject(QObject *object);
     void removeDead();
 
     void restoreStoredKeys();
 
     // Conflicts
     void deleteConflictHandlers();
+    /// Those with a member that is to have another key.
+    void deleteOutdatedHandlers();
     void lookForConflict(QObject *object);
     void rebuildConflictHandlers();
     ZelShortcutConflictHandler *handlerOf(const QKeySequence &key) const;
     /// Whether the handler of the key has the object.
     bool isHeld(const QObject *object, const QKeySequence &key) const;
+    static bool isHeldNow(const QObject *object, const QKeySequence &key);
 
 private:
-    void makeHandler(const QList<QObject *> &group);
-    void enterHandler(ZelShortcutConflictHandler *handler);
+    using Group = QList<QPointer<QObject>>;
+    void rememberKey(QObject *object, const QKeySequence &key);
+    void makeHandler(Group group);
+    void deleteHandlersBut(const QSet<const ZelShortcutConflictHandler *> &kept);
+    /// The live objects by their keys, those that are lent to handlers included.
+    QList<Group> groupByKeys();
 };
