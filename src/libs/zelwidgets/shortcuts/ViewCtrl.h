@@ -44,11 +44,12 @@ public:
     void restoreViewCamSettings();
     void storeViewCamSettings();
 
-    /// Sets the gestures of the mode in force once more, Mode0's excepted.
+    /// Sets the gestures of the mode in force once more.
     void applyGestures();
 
 private:
     Settings() = default;
+    void applyEntries();
 
     ViewMode viewMode_ = ViewMode::Mode0;
     DollyMouseMode dollyZoomInMode_ = DollyMouseMode::Mode0;
