@@ -1,10 +1,12 @@
 #include "GalleryApplication.h"
 
+#include "GalleryShortcuts.h"
 #include "IconSizeStyle.h"
 
 #include <ZelWidgets/HandleSvgInStyle>
 #include <ZelWidgets/ZelFontMetrics>
 #include <ZelWidgets/ZelResources>
+#include <ZelWidgets/ZelShortcutHandler>
 #include <ZelWidgets/ZelStyleSheets>
 #include <ZelWidgets/ZelmoraStyle>
 
@@ -33,6 +35,8 @@ GalleryApplication::GalleryApplication(const QString &theme, QObject *parent)
     , theme_(theme.isEmpty() ? storedTheme() : theme)
     , systemFont_(QApplication::font())
 {
+    ZelShortcutHandler::prepareInstance();
+    GalleryShortcuts::registerIds();
     zelmorawidgets_init_resources();
     HandleSvgInStyle::prepareHandleSvgIcons();
     QApplication::setStyle(new ZelmoraStyle(new IconSizeStyle(QStringLiteral("Fusion"))));

@@ -11,8 +11,8 @@ class GalleryApplication : public QObject
     Q_OBJECT
 
 public:
-    /// Registers resources and style, and applies the first sheet. Needs the application object
-    /// and the settings store. An empty theme takes the stored one.
+    /// Makes the registry of shortcuts, registers resources and style, and applies the first sheet.
+    /// Needs the application object and the settings store. An empty theme takes the stored one.
     explicit GalleryApplication(const QString &theme, QObject *parent = nullptr);
 
     QString theme() const { return theme_; }

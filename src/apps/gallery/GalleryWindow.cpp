@@ -6,6 +6,8 @@
 #include "PageCatalog.h"
 
 #include <ZelCore/ZelSettings>
+#include <ZelWidgets/ZelAction>
+#include <ZelWidgets/ZelShortcutHandler>
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelStyleSheets>
 
@@ -37,6 +39,13 @@ QIcon themedIcon(const QString &name)
 ZelSettings windowSettings()
 {
     return ZelSettings(QStringLiteral("gallery"));
+}
+
+/// Lets users give the action another key; it belongs to the window.
+QAction *bindable(const char *id, QAction *action, QWidget *window)
+{
+    new ZelAction(QLatin1String(id), action, window);
+    return action;
 }
 
 /// True by default, also when the settings hold something else under the key.
@@ -106,6 +115,8 @@ GalleryWindow::GalleryWindow(GalleryApplication *application)
     else
         stack_->currentWidget()->setFocus();
     fitListToTitles();
+    ZelShortcutHandler::instance()->restoreSettings();
+    ZelShortcutHandler::instance()->setSystemInitialized(this);
 }
 
 QWidget *GalleryWindow::createPageList()
@@ -138,30 +149,43 @@ QWidget *GalleryWindow::createPageList()
 void GalleryWindow::createActions()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    bindable("file.zQuit", file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close),
+             this);
 
     QMenu *view = menuBar()->addMenu(tr("&View"));
     showList_ = view->addAction(tr("Page &list"));
     showList_->setCheckable(true);
     showList_->setChecked(true);
     showList_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_1));
+    bindable("if.aPageList", showList_, this);
     connect(showList_, &QAction::toggled, listPanel_, &QWidget::setVisible);
     showLog_ = view->addAction(tr("&Signals and messages"));
     showLog_->setCheckable(true);
     showLog_->setChecked(true);
     showLog_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_2));
+    bindable("if.bLog", showLog_, this);
     connect(showLog_, &QAction::toggled, log_, &QWidget::setVisible);
     view->addSeparator();
-    view->addAction(tr("&Next page"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), this,
-                    [this] { stepPage(1); });
-    view->addAction(tr("&Previous page"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), this,
-                    [this] { stepPage(-1); });
-    view->addAction(tr("&Filter pages"), QKeySequence::Find, this, [this] {
-        showList_->setChecked(true);
-        filter_->setFocus(Qt::ShortcutFocusReason);
-        filter_->selectAll();
-    });
+    bindable("if.cNextPage",
+             view->addAction(tr("&Next page"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), this,
+                             [this] { stepPage(1); }),
+             this);
+    bindable("if.dPreviousPage",
+             view->addAction(tr("&Previous page"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), this,
+                             [this] { stepPage(-1); }),
+             this);
+    bindable(
+        "if.eFilterPages",
+        view->addAction(tr("&Filter pages"), QKeySequence::Find, this, &GalleryWindow::focusFilter),
+        this);
     createThemeMenu();
+}
+
+void GalleryWindow::focusFilter()
+{
+    showList_->setChecked(true);
+    filter_->setFocus(Qt::ShortcutFocusReason);
+    filter_->selectAll();
 }
 
 void GalleryWindow::createThemeMenu()
@@ -178,12 +202,10 @@ void GalleryWindow::createThemeMenu()
                 [action, key = key](const QString &now) { action->setChecked(key == now); });
     }
     menu->addSeparator();
-    menu->addAction(tr("&Other theme"), QKeySequence(Qt::CTRL | Qt::Key_T), this, [this] {
-        for (const auto &theme : ZelStyleSheets::colorThemeList()) {
-            if (theme.second != application_->theme())
-                return chooseTheme(theme.second);
-        }
-    });
+    bindable("if.fOtherTheme",
+             menu->addAction(tr("&Other theme"), QKeySequence(Qt::CTRL | Qt::Key_T), this,
+                             &GalleryWindow::chooseOtherTheme),
+             this);
 }
 
 void GalleryWindow::createToolBar()
@@ -236,6 +258,14 @@ void GalleryWindow::chooseTheme(const QString &key)
     // Queued, so that the menu that asked for it is closed before all widgets are polished anew.
     QMetaObject::invokeMethod(
         application_, [this, key] { application_->setTheme(key); }, Qt::QueuedConnection);
+}
+
+void GalleryWindow::chooseOtherTheme()
+{
+    for (const auto &theme : ZelStyleSheets::colorThemeList()) {
+        if (theme.second != application_->theme())
+            return chooseTheme(theme.second);
+    }
 }
 
 void GalleryWindow::chooseFontSize(int row)

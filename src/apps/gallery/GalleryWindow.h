@@ -38,7 +38,9 @@ private:
     void createToolBar();
     void filterPages(const QString &text);
     void openFirstMatch();
+    void focusFilter();
     void chooseTheme(const QString &key);
+    void chooseOtherTheme();
     void chooseFontSize(int row);
     void updateFontSizeBox();
     void stepPage(int step);

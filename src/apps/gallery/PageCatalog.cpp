@@ -8,6 +8,7 @@
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
 #include "pages/PlainWidgetsPage.h"
+#include "pages/ShortcutsPage.h"
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
@@ -69,6 +70,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
+        {QStringLiteral("shortcuts"), text("Shortcuts"),
+         text("The editor of keys and mouse gestures, with conflicts, import and export"),
+         QStringLiteral("gear"), &make<ShortcutsPage>},
     };
     return pages;
 }

@@ -4,6 +4,7 @@
 #include "ZelShortcutHandler_p.h"
 #include "ZelStoredValue.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -20,8 +21,9 @@ constexpr Qt::MouseButton middle = Qt::MiddleButton;
 constexpr Qt::MouseButton right = Qt::RightButton;
 constexpr Qt::MouseButtons leftAndRight = Qt::LeftButton | Qt::RightButton;
 
-constexpr std::array gestureIds{"cam#ctrl.aTumble", "cam#ctrl.bPan", "cam#ctrl.cvDolly",
-                                "cam#ctrl.cxDolly2"};
+constexpr std::array gestureIds{QLatin1String("cam#ctrl.aTumble"), QLatin1String("cam#ctrl.bPan"),
+                                QLatin1String("cam#ctrl.cvDolly"),
+                                QLatin1String("cam#ctrl.cxDolly2")};
 using Gestures = std::array<Shortcut, gestureIds.size()>;
 
 Shortcut drag(Qt::KeyboardModifiers modifiers, Qt::MouseButtons buttons)
@@ -79,7 +81,7 @@ Actions gestureActions()
     const auto *settings = ZelMouseActionSettings::instance();
     for (std::size_t i = 0; i < actions.size(); ++i) {
         // The table hands its actions out as const; presets are its own business.
-        actions[i] = const_cast<ZelMouseAction *>(settings->findById(QLatin1String(gestureIds[i])));
+        actions[i] = const_cast<ZelMouseAction *>(settings->findById(gestureIds[i]));
     }
     return actions;
 }
@@ -135,6 +137,12 @@ void Settings::applyEntries()
         if (entry != entries.constEnd() && entry->currentKey != action->internalShortcutTxt())
             action->setShortcutFromText(entry->currentKey);
     }
+}
+
+bool Settings::decidesOn(const QString &id) const
+{
+    return presetOf(viewMode_) &&
+           std::find(gestureIds.begin(), gestureIds.end(), id) != gestureIds.end();
 }
 
 void Settings::restoreViewCamSettings()

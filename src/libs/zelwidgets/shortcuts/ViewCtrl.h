@@ -2,6 +2,8 @@
 
 #include <ZelWidgets/zelwidgets_export.h>
 
+#include <QString>
+
 /// Camera navigation as other programs do it.
 namespace ViewCtrl {
 
@@ -43,6 +45,9 @@ public:
     /// Settings group "shortcutSettings", key "ViewCtrl"; nothing happens without the key.
     void restoreViewCamSettings();
     void storeViewCamSettings();
+
+    /// Whether the mode in force, and not the registry, decides on the gesture of the id.
+    bool decidesOn(const QString &id) const;
 
     /// Sets the gestures of the mode in force once more.
     void applyGestures();

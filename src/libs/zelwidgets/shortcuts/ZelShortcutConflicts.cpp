@@ -4,8 +4,8 @@
 #include "ZelShortcut.h"
 #include "ZelShortcutConflictHandler.h"
 #include "ZelShortcutHandler_p.h"
+#include "ZelShortcutScopes.h"
 
-#include <QMenu>
 #include <QSet>
 
 #include <algorithm>
@@ -33,15 +33,8 @@ QSet<QWidget *> places(const QList<QPointer<QObject>> &objects, const QString &i
     for (const QPointer<QObject> &object : objects) {
         const ConflictMember member(object);
         QWidget *scope = member.isAlive() && member.id() == id ? member.scope() : nullptr;
-        if (!scope)
-            continue;
-        places << scope;
-        QWidget *window = scope->window();
-        places << window;
-        while (qobject_cast<QMenu *>(window) && window->parentWidget()) {
-            window = window->parentWidget()->window();
-            places << window;
-        }
+        if (scope)
+            places += ZelShortcutScopes::places(scope);
     }
     return places;
 }

@@ -106,6 +106,7 @@ private:
     friend class ZelShortcutConflictHandler;
     friend class ViewCtrl::Settings;
     friend class ZelShortcutHandlerPrivate;
+    friend class ZelShortcutScopes;
     friend struct std::default_delete<ZelShortcutHandler>;
 
     ZelShortcutHandler();
