@@ -1,6 +1,8 @@
 #include "PageCatalog.h"
 
+#include "pages/ActionsPage.h"
 #include "pages/ButtonsPage.h"
+#include "pages/ConflictsPage.h"
 #include "pages/FontsPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
@@ -73,6 +75,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("shortcuts"), text("Shortcuts"),
          text("The editor of keys and mouse gestures, with conflicts, import and export"),
          QStringLiteral("gear"), &make<ShortcutsPage>},
+        {QStringLiteral("conflicts"), text("Conflicts"),
+         text("Views and a tool window that share keys; who is meant, and why"),
+         QStringLiteral("warning"), &make<ConflictsPage>},
+        {QStringLiteral("actions"), text("Actions"),
+         text("States shared by menu, buttons and tool bar, hot keys off, changes from a thread"),
+         QStringLiteral("check"), &make<ActionsPage>},
     };
     return pages;
 }

@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace {
 
 struct Exceptions
@@ -20,8 +22,12 @@ struct Exceptions
     bool hold(const QShortcut *shortcut) const
     {
         const auto *own = qobject_cast<const ZelShortcut *>(shortcut);
-        return keys.contains(shortcut->key()) || ZelShortcutHandler::isConflictHandler(shortcut) ||
-               (own && ids.contains(own->id()));
+        // A shortcut in conflict has lent its key to the handler.
+        const auto isKept = [shortcut](const QKeySequence &key) {
+            return shortcut->key() == key || ZelShortcutHandlerPrivate::isHeldNow(shortcut, key);
+        };
+        return std::any_of(keys.begin(), keys.end(), isKept) ||
+               ZelShortcutHandler::isConflictHandler(shortcut) || (own && ids.contains(own->id()));
     }
     bool hold(const QAction *action) const
     {

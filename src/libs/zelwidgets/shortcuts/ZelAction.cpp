@@ -43,7 +43,12 @@ ZelAction::ZelAction(const QString &id, QAction *action, QObject *parent)
     setUp();
 }
 
-ZelAction::~ZelAction() = default;
+ZelAction::~ZelAction()
+{
+    // Handlers of conflicts give the action its context back once they hear of this end.
+    if (action_)
+        action_->disconnect(this);
+}
 
 void ZelAction::setUp()
 {

@@ -10,6 +10,7 @@ ConflictMember::ConflictMember(QObject *object)
     : action_(qobject_cast<ZelAction *>(object))
     , shortcut_(qobject_cast<ZelShortcut *>(object))
     , qAction_(action_ ? action_->qAction() : nullptr)
+    , savedContext_(qAction_ ? qAction_->shortcutContext() : Qt::WindowShortcut)
 {}
 
 bool ConflictMember::isAlive() const
@@ -25,6 +26,20 @@ bool ConflictMember::isSame(const ConflictMember &other) const
 bool ConflictMember::isObject(const QObject *object) const
 {
     return object && this->object() == object;
+}
+
+bool ConflictMember::sharesQAction(const ConflictMember &other) const
+{
+    return qAction_ && qAction_ == other.qAction_;
+}
+
+bool ConflictMember::isSameThing(const ConflictMember &other) const
+{
+    if (shortcut_ && other.shortcut_)
+        return shortcut_ == other.shortcut_;
+    const QAction *mine = shortcut_ ? shortcut_->ownAction() : qAction_.data();
+    const QAction *others = other.shortcut_ ? other.shortcut_->ownAction() : other.qAction_.data();
+    return mine && mine == others;
 }
 
 QObject *ConflictMember::object() const
@@ -79,10 +94,8 @@ Qt::ShortcutContext ConflictMember::context() const
 
 void ConflictMember::neutralize()
 {
-    if (qAction_) {
-        savedContext_ = qAction_->shortcutContext();
+    if (qAction_)
         qAction_->setShortcutContext(Qt::WidgetShortcut);
-    }
     if (shortcut_)
         shortcut_->setKey(QKeySequence());
 }

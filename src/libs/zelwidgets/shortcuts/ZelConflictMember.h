@@ -22,6 +22,10 @@ public:
     bool isAlive() const;
     bool isSame(const ConflictMember &other) const;
     bool isObject(const QObject *object) const;
+    /// Whether the two are faces of one thing, which can't be in conflict with itself: actions that
+    /// wrap the same QAction, or a shortcut and the QAction that it was made for.
+    bool isSameThing(const ConflictMember &other) const;
+    bool sharesQAction(const ConflictMember &other) const;
 
     QKeySequence key() const;
     bool hasKey() const;
@@ -37,6 +41,8 @@ public:
 
     /// Takes the object out of Qt's map of shortcuts. An action keeps its key, for menus to show.
     void neutralize();
+    /// The QAction is neutralised already: its own context is the one that the other knows.
+    void takeContextOf(const ConflictMember &other) { savedContext_ = other.savedContext_; }
     /// Undoes it; shortcuts get this key.
     void restore(const QKeySequence &key);
     /// Triggers the action, emits the shortcut's signal.

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QDebug>
+#include <QShortcutEvent>
 #include <QWidget>
 
 ZelShortcut::ZelShortcut(const QString &id, QString text, const QKeySequence &key, QWidget *parent,
@@ -20,9 +21,16 @@ ZelShortcut::ZelShortcut(const QString &id, QAction *action, QWidget *parent, co
     : QShortcut(action->shortcut(), parent, member)
     , id_(id)
     , text_(action->text())
+    , ownAction_(action)
 {
     new ZelAction(id, action, this);
     setKey(action->shortcut());
+    // In a menu or a view the action takes the key, too; Qt then tells the two in turn.
+    action->installEventFilter(this);
+    connect(this, &QShortcut::activatedAmbiguously, this, [this] {
+        if (ownAction_ && !ownAction_->associatedObjects().isEmpty())
+            Q_EMIT activated();
+    });
     enroll();
 }
 
@@ -68,6 +76,18 @@ QWidget *ZelShortcut::scope() const
 void ZelShortcut::setScope(QWidget *scope)
 {
     scope_ = scope;
+}
+
+bool ZelShortcut::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ownAction_ && event->type() == QEvent::Shortcut) {
+        const auto *press = static_cast<QShortcutEvent *>(event);
+        if (press->isAmbiguous() && press->key() == key() && isEnabled()) {
+            Q_EMIT activated();
+            return true;
+        }
+    }
+    return QShortcut::eventFilter(watched, event);
 }
 
 void ZelShortcut::hardChangeId(QString id)

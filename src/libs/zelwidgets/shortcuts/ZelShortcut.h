@@ -19,6 +19,7 @@ public:
     ZelShortcut(const QString &id, QString text, const QKeySequence &key, QWidget *parent,
                 const char *member = nullptr, const char *ambiguousMember = nullptr);
     /// Text and key are the action's. The action gets a ZelAction of the id, owned by the shortcut.
+    /// Where the action could take the key as well, the shortcut is the one to be activated.
     ZelShortcut(const QString &id, QAction *action, QWidget *parent, const char *member = nullptr);
     /// Id, text and key are the action's.
     ZelShortcut(ZelAction *action, QWidget *parent, const char *member = nullptr);
@@ -34,6 +35,10 @@ public:
     QWidget *scope() const;
     /// Not owned.
     void setScope(QWidget *scope);
+    /// The action that it was made for together with a ZelAction; null otherwise.
+    QAction *ownAction() const { return ownAction_; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     friend class ZelHotKeyMaterials;
@@ -43,4 +48,5 @@ private:
     QString id_;
     QString text_;
     QPointer<QWidget> scope_;
+    QPointer<QAction> ownAction_;
 };

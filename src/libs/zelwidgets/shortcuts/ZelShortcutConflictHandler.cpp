@@ -61,6 +61,14 @@ QObject *parentOf(const ConflictMember &member)
     return member.object() ? member.object()->parent() : nullptr;
 }
 
+QWidget *parentFor(const ConflictMember &first, const ConflictMember &second)
+{
+    if (QWidget *mainWidget = ZelShortcutHandlerPrivate::mainWidget())
+        return mainWidget;
+    QWidget *scope = first.scope() ? first.scope() : second.scope();
+    return scope ? scope->window() : nullptr;
+}
+
 bool isInItemView(const QWidget *widget)
 {
     return qobject_cast<const QAbstractItemView *>(widget) ||
@@ -84,17 +92,14 @@ ZelShortcutConflictHandler *ZelShortcutConflictHandler::make(QObject *a, QObject
     const QKeySequence key = first.key();
     if (key.isEmpty() || key != second.key() || first.isSame(second))
         return nullptr;
-    QWidget *parent = ZelShortcutHandlerPrivate::mainWidget();
-    if (!parent && first.scope())
-        parent = first.scope()->window();
+    QWidget *parent = parentFor(first, second);
+    if (!parent)
+        return nullptr;
     if (first.scope() == second.scope() && first.id() != second.id()) {
         qDebug().noquote() << QStringLiteral("Will not be able to resolve conflicts for (%1, %2)")
                                   .arg(first.text(), second.text());
     }
-    auto *handler = new ZelShortcutConflictHandler(key, parent);
-    handler->add(a);
-    handler->add(b);
-    return handler;
+    return new ZelShortcutConflictHandler(key, parent);
 }
 
 ZelShortcutConflictHandler::~ZelShortcutConflictHandler()
@@ -104,18 +109,28 @@ ZelShortcutConflictHandler::~ZelShortcutConflictHandler()
 
 void ZelShortcutConflictHandler::release()
 {
-    for (ConflictMember &member : members_) {
-        if (QAction *action = member.qAction())
-            action->removeEventFilter(this);
-        member.restore(key());
+    const QKeySequence handled = key();
+    const QPointer<ZelShortcutConflictHandler> self(this);
+    while (self && !members_.isEmpty()) {
+        ConflictMember member = members_.takeLast();
+        giveBack(member, handled);
     }
-    members_.clear();
+}
+
+void ZelShortcutConflictHandler::giveBack(ConflictMember &member, const QKeySequence &key)
+{
+    if (QAction *action = member.qAction())
+        action->removeEventFilter(this);
+    member.restore(key);
 }
 
 void ZelShortcutConflictHandler::dismiss()
 {
-    release();
+    const QPointer<ZelShortcutConflictHandler> self(this);
     setEnabled(false);
+    release();
+    if (!self)
+        return;
     if (deciding_ > 0)
         deleteLater();
     else
@@ -127,13 +142,17 @@ void ZelShortcutConflictHandler::add(QObject *object)
     ConflictMember member(object);
     if (!member.isAlive() || holds(object))
         return;
-    member.neutralize();
+    for (const ConflictMember &other : std::as_const(members_)) {
+        if (member.sharesQAction(other))
+            member.takeContextOf(other);
+    }
     members_.append(member);
     connect(object, &QObject::destroyed, this, &ZelShortcutConflictHandler::removeDead);
     if (QAction *action = member.qAction()) {
         action->installEventFilter(this);
         connect(action, &QObject::destroyed, this, &ZelShortcutConflictHandler::removeDead);
     }
+    member.neutralize();
 }
 
 bool ZelShortcutConflictHandler::holds(const QObject *object) const
@@ -144,7 +163,20 @@ bool ZelShortcutConflictHandler::holds(const QObject *object) const
 
 void ZelShortcutConflictHandler::removeDead()
 {
-    members_.removeIf([](const ConflictMember &member) { return !member.isAlive(); });
+    QList<ConflictMember> dead;
+    for (qsizetype at = members_.size() - 1; at >= 0; --at) {
+        if (!members_[at].isAlive())
+            dead.append(members_.takeAt(at));
+    }
+    // A wrapped action outlives its ZelAction, and may be in under another one.
+    for (ConflictMember &member : dead) {
+        const bool isShared =
+            std::any_of(members_.cbegin(), members_.cend(), [&member](const ConflictMember &other) {
+                return member.sharesQAction(other);
+            });
+        if (!isShared)
+            giveBack(member, key());
+    }
 }
 
 bool ZelShortcutConflictHandler::eventFilter(QObject *watched, QEvent *event)
@@ -171,9 +203,11 @@ void ZelShortcutConflictHandler::decide()
     if (found.isEmpty()) {
         resend(QStringLiteral("unknown"), true);
     } else if (!leavesDeleteToView(found.first(), place)) {
-        const std::optional<Candidate> chosen = best(found);
-        if (chosen && chosen->member.enabled())
-            chosen->member.fire();
+        const Choice choice = choose(withoutDoubles(found));
+        if (choice.rival)
+            report(choice.best, *choice.rival);
+        else if (choice.best.member.enabled())
+            choice.best.member.fire();
     }
     if (self)
         --deciding_;
@@ -196,22 +230,61 @@ ZelShortcutConflictHandler::candidates(QWidget *focus, QWidget *place) const
     return found;
 }
 
-std::optional<ZelShortcutConflictHandler::Candidate>
-ZelShortcutConflictHandler::best(const QList<Candidate> &candidates) const
+/// Without the actions that a shortcut stands for.
+QList<ZelShortcutConflictHandler::Candidate>
+ZelShortcutConflictHandler::withoutDoubles(QList<Candidate> candidates)
+{
+    const QList<Candidate> all = candidates;
+    candidates.removeIf([&all](const Candidate &candidate) {
+        return !candidate.member.isShortcut() &&
+               std::any_of(all.begin(), all.end(), [&candidate](const Candidate &other) {
+                   return other.member.isShortcut() && other.member.enabled() &&
+                          other.member.isSameThing(candidate.member);
+               });
+    });
+    return candidates;
+}
+
+ZelShortcutConflictHandler::Choice
+ZelShortcutConflictHandler::choose(const QList<Candidate> &candidates)
 {
     Candidate best = candidates.first();
     for (const Candidate &next : candidates.mid(1)) {
         const QString id = next.member.id();
-        if (id != best.member.id() || isOfEachView(id)) {
+        const bool isSameThing = next.member.isSameThing(best.member);
+        if (!isSameThing && (id != best.member.id() || isOfEachView(id))) {
             if (next.score > best.score)
                 break;
-            report(best, next);
-            return std::nullopt;
+            return {best, next};
         }
         if (!best.member.enabled() && next.member.enabled())
             best = next;
     }
-    return best;
+    return {best, std::nullopt};
+}
+
+QList<ZelConflictStanding> ZelShortcutConflictHandler::standings() const
+{
+    QList<ZelConflictStanding> standings;
+    QWidget *focus = QApplication::focusWidget();
+    QWidget *place = focus ? focus : QApplication::activeWindow();
+    const QList<Candidate> found = place ? candidates(focus, place) : QList<Candidate>();
+    std::optional<Choice> choice;
+    if (!found.isEmpty())
+        choice = choose(withoutDoubles(found));
+    for (const Candidate &candidate : found) {
+        const ConflictMember &member = candidate.member;
+        const bool isMeant = !choice->rival && member.isSame(choice->best.member);
+        standings.append({member.id(), member.text(), candidate.score, member.enabled(), isMeant});
+    }
+    for (const ConflictMember &member : members_) {
+        const bool isFound = std::any_of(found.begin(), found.end(), [&member](const auto &other) {
+            return other.member.isSame(member);
+        });
+        if (!isFound)
+            standings.append({member.id(), member.text(), {}, member.enabled(), false});
+    }
+    return standings;
 }
 
 bool ZelShortcutConflictHandler::leavesDeleteToView(const Candidate &best, const QWidget *place)
@@ -233,7 +306,8 @@ bool ZelShortcutConflictHandler::resend(const QString &id, bool force, int key)
         return false;
     const std::unique_ptr<QKeyEvent> last = KeyStateInformation::lastKeyPress();
     const int sent = key == -1 ? last->key() : key;
-    if (!force && (last->text().isEmpty() || sent > Qt::Key_F1))
+    const int plain = sent & ~static_cast<int>(Qt::KeyboardModifierMask);
+    if (!force && (last->text().isEmpty() || plain > Qt::Key_F1))
         return false;
     const QPointer<ZelShortcutConflictHandler> self(this);
     inInvoke_ = true;

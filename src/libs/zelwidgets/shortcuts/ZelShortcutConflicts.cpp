@@ -6,6 +6,9 @@
 #include "ZelShortcutHandler_p.h"
 #include "ZelShortcutScopes.h"
 
+#include <ZelWidgets/GlobalEventFilter>
+
+#include <QScopedValueRollback>
 #include <QSet>
 
 #include <algorithm>
@@ -14,16 +17,22 @@ namespace {
 
 constexpr qsizetype handlerLimit = 3001;
 
-/// Whether the two are a shortcut and the action that it has made of its own.
-bool isOwnPair(const QObject *a, const QObject *b)
-{
-    return (a->parent() == b && qobject_cast<const ZelShortcut *>(b)) ||
-           (b->parent() == a && qobject_cast<const ZelShortcut *>(a));
-}
-
 QKeySequence keyOf(QObject *object)
 {
     return object ? ConflictMember(object).key() : QKeySequence();
+}
+
+/// Whether any two of the objects could be meant by one key.
+bool areSeveralThings(const QList<QPointer<QObject>> &objects)
+{
+    for (qsizetype at = 0; at < objects.size(); ++at) {
+        const ConflictMember member(objects[at]);
+        for (qsizetype other = at + 1; other < objects.size(); ++other) {
+            if (!member.isSameThing(ConflictMember(objects[other])))
+                return true;
+        }
+    }
+    return false;
 }
 
 /// The windows that the live objects of an id work in, and the widgets that they belong to.
@@ -52,19 +61,23 @@ bool ZelShortcutHandlerPrivate::isHeld(const QObject *object, const QKeySequence
     return handler && handler->holds(object);
 }
 
-void ZelShortcutHandlerPrivate::enterHandler(ZelShortcutConflictHandler *handler)
+bool ZelShortcutHandlerPrivate::isHeldNow(const QObject *object, const QKeySequence &key)
 {
-    conflictHandlers.append(handler);
-    handlersByKey.insert(handler->key(), handler);
+    return ZelShortcutHandler::instance()->d_->isHeld(object, key);
 }
 
 void ZelShortcutHandlerPrivate::deleteConflictHandlers()
 {
+    // Objects that are made meanwhile must not get hold of those that are still to be given back.
+    const QScopedValueRollback<bool> batch(batchUpdate, true);
     handlersByKey.clear();
-    for (const QPointer<ZelShortcutConflictHandler> &handler :
-         std::exchange(conflictHandlers, {})) {
+    // Each stays in the list until all is given back, for those who apply keys on hearing of that.
+    while (!conflictHandlers.isEmpty()) {
+        const QPointer<ZelShortcutConflictHandler> handler = conflictHandlers.last();
         if (handler)
             handler->dismiss();
+        conflictHandlers.removeOne(handler);
+        conflictHandlers.removeAll(QPointer<ZelShortcutConflictHandler>());
     }
 }
 
@@ -77,30 +90,51 @@ void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
         rebuildConflictHandlers();
         return;
     }
-    ZelShortcutConflictHandler *handler = handlerOf(key);
-    if (handler) {
+    rememberKey(object, key);
+    if (ZelShortcutConflictHandler *handler = handlerOf(key)) {
         handler->add(object);
         return;
     }
-    QList<QObject *> group{object};
+    Group group;
     for (const QPointer<QObject> &other : objectsByKey.value(key)) {
-        if (other && other != object && keyOf(other) == key)
+        if (keyOf(other) == key && !group.contains(other))
             group.append(other);
     }
     makeHandler(group);
 }
 
-/// A handler of all objects of the group, which have one key.
-void ZelShortcutHandlerPrivate::makeHandler(const QList<QObject *> &group)
+void ZelShortcutHandlerPrivate::rememberKey(QObject *object, const QKeySequence &key)
 {
-    if (group.size() < 2 || (group.size() == 2 && isOwnPair(group[0], group[1])))
+    Group &group = objectsByKey[key];
+    // Now and then, so that views that come and go leave nothing behind.
+    const bool isPowerOfTwo = (group.size() & (group.size() - 1)) == 0;
+    if (isPowerOfTwo)
+        group.removeIf([](const QPointer<QObject> &other) { return other.isNull(); });
+    group.append(object);
+}
+
+/// A handler of all objects of the group, which have one key.
+void ZelShortcutHandlerPrivate::makeHandler(Group group)
+{
+    group.removeIf([](const QPointer<QObject> &object) { return keyOf(object).isEmpty(); });
+    if (group.size() < 2 || !areSeveralThings(group))
         return;
-    ZelShortcutConflictHandler *handler = ZelShortcutConflictHandler::make(group[0], group[1]);
-    if (!handler)
-        return;
-    for (QObject *object : group.mid(2))
-        handler->add(object);
-    enterHandler(handler);
+    // Whoever hears of the changed actions may end objects, and enter new ones.
+    QPointer<ZelShortcutConflictHandler> handler = handlerOf(keyOf(group[0]));
+    if (!handler) {
+        handler = ZelShortcutConflictHandler::make(group[0], group[1]);
+        if (!handler)
+            return;
+        // Handlers may have to hand on the key that was pressed.
+        if (conflictHandlers.isEmpty())
+            GlobalEventFilter::instance();
+        conflictHandlers.append(handler);
+        handlersByKey.insert(handler->key(), handler);
+    }
+    for (const QPointer<QObject> &object : group) {
+        if (handler && keyOf(object) == handler->key())
+            handler->add(object);
+    }
 }
 
 void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
@@ -108,7 +142,7 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
     deleteConflictHandlers();
     objectsByKey.clear();
     QHash<QKeySequence, qsizetype> positions;
-    QList<QList<QObject *>> groups;
+    QList<Group> groups;
     QSet<QObject *> seen;
     for (const QPointer<QObject> &object : std::as_const(liveObjects)) {
         const QKeySequence key = keyOf(object);
@@ -124,7 +158,7 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
             groups.append({object});
         }
     }
-    for (const QList<QObject *> &group : std::as_const(groups))
+    for (const Group &group : std::as_const(groups))
         makeHandler(group);
 }
 
@@ -134,6 +168,12 @@ bool ZelShortcutHandler::activateConflictHandlerShortcut(const QKeySequence &key
     if (handler)
         handler->decide();
     return handler != nullptr;
+}
+
+QList<ZelConflictStanding> ZelShortcutHandler::conflictStandings(const QKeySequence &key) const
+{
+    const ZelShortcutConflictHandler *handler = d_->handlerOf(key);
+    return handler ? handler->standings() : QList<ZelConflictStanding>();
 }
 
 bool ZelShortcutHandler::hasScopeConflictKey(QString idA, QString idB) const

@@ -124,7 +124,7 @@ void ZelShortcutHandler::registerActionOrSetShortcut(ZelAction &action)
     const QKeySequence sequence = fromPortable(key);
     if (sequence != qAction->shortcut())
         qAction->setShortcut(sequence);
-    d_->addLiveObject(&action, sequence);
+    d_->addLiveObject(&action);
 }
 
 void ZelShortcutHandler::registerOrChangeShortcut(ZelShortcut &shortcut)
@@ -136,7 +136,7 @@ void ZelShortcutHandler::registerOrChangeShortcut(ZelShortcut &shortcut)
     // A handler of conflicts may have taken the key away for the time being.
     if (sequence != shortcut.key() && !d_->isHeld(&shortcut, sequence))
         shortcut.setKey(sequence);
-    d_->addLiveObject(&shortcut, sequence);
+    d_->addLiveObject(&shortcut);
 }
 
 void ZelShortcutHandler::registerOrChangeMouseAction(ZelMouseAction &action)
@@ -255,7 +255,7 @@ void ZelShortcutHandlerPrivate::removeDead()
     liveObjects.removeIf([](const QPointer<QObject> &object) { return object.isNull(); });
 }
 
-void ZelShortcutHandlerPrivate::addLiveObject(QObject *object, const QKeySequence &key)
+void ZelShortcutHandlerPrivate::addLiveObject(QObject *object)
 {
     if (liveObjects.size() > cleanLimit)
         removeDead();
@@ -265,6 +265,4 @@ void ZelShortcutHandlerPrivate::addLiveObject(QObject *object, const QKeySequenc
     if (batchUpdate || !systemInitialized)
         return;
     lookForConflict(object);
-    if (!key.isEmpty())
-        objectsByKey[key].append(object);
 }

@@ -5,9 +5,11 @@
 
 #include <QCoreApplication>
 #include <QKeySequence>
+#include <QList>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QAction;
 class QObject;
@@ -21,6 +23,17 @@ class ZelShortcutHandlerPrivate;
 namespace ViewCtrl {
 class Settings;
 }
+
+/// How one of several objects with the same key stands to a press of it.
+struct ZelConflictStanding
+{
+    QString id;
+    QString text;
+    /// The distance from the focus, the lowest is meant; none where the key doesn't reach it.
+    std::optional<int> score;
+    bool isEnabled;
+    bool isMeant;
+};
 
 /// The registry of every keyboard and mouse shortcut of the application.
 ///
@@ -83,6 +96,9 @@ public:
     /// Does what a press of the key does where several objects have it, for those who have eaten
     /// the key event; false if there are no such objects.
     bool activateConflictHandlerShortcut(const QKeySequence &key);
+    /// The objects that share the key, the nearest to the focus first; none of them is meant where
+    /// two are equally near. Empty if at most one object has the key.
+    QList<ZelConflictStanding> conflictStandings(const QKeySequence &key) const;
 
     /// Settings group "shortcutSettings": one key for each id.
     void storeSettings();

@@ -56,7 +56,7 @@ public:
     static GlobalShortcutSettings &global();
     static QPointer<QWidget> &mainWidget();
 
-    void addLiveObject(QObject *object, const QKeySequence &key = {});
+    void addLiveObject(QObject *object);
     void removeDead();
 
     void restoreStoredKeys();
@@ -68,8 +68,10 @@ public:
     ZelShortcutConflictHandler *handlerOf(const QKeySequence &key) const;
     /// Whether the handler of the key has the object.
     bool isHeld(const QObject *object, const QKeySequence &key) const;
+    static bool isHeldNow(const QObject *object, const QKeySequence &key);
 
 private:
-    void makeHandler(const QList<QObject *> &group);
-    void enterHandler(ZelShortcutConflictHandler *handler);
+    using Group = QList<QPointer<QObject>>;
+    void rememberKey(QObject *object, const QKeySequence &key);
+    void makeHandler(Group group);
 };
