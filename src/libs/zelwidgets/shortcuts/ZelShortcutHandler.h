@@ -123,6 +123,7 @@ private:
     friend class ViewCtrl::Settings;
     friend class ZelShortcutHandlerPrivate;
     friend class ZelShortcutScopes;
+    friend class ZelCommand;
     friend struct std::default_delete<ZelShortcutHandler>;
 
     ZelShortcutHandler();
