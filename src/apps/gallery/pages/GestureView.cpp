@@ -1,10 +1,10 @@
 #include "GestureView.h"
 
+#include <ZelWidgets/KeyStateInformation>
 #include <ZelWidgets/ZelMouseActionSettings>
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -12,6 +12,16 @@
 namespace {
 
 constexpr int focusWidth = 2;
+
+/// The modifiers with the digit that is held down, wherever the focus is.
+QKeyCombination withDigit(Qt::KeyboardModifiers modifiers)
+{
+    for (const Qt::Key digit : {Qt::Key_1, Qt::Key_2}) {
+        if (KeyStateInformation::isKeyDown(digit))
+            return QKeyCombination(modifiers, digit);
+    }
+    return QKeyCombination(modifiers, Qt::Key_unknown);
+}
 
 } // namespace
 
@@ -25,17 +35,12 @@ GestureView::GestureView(QWidget *parent)
     setMinimumSize(240, 160);
 }
 
-QKeyCombination GestureView::keys(Qt::KeyboardModifiers modifiers) const
-{
-    return QKeyCombination(modifiers, heldDigit_);
-}
-
 void GestureView::tell(ZelMouseShortcut::MouseEventAction event, Qt::MouseButtons buttons,
                        Qt::KeyboardModifiers modifiers)
 {
     const auto *action =
-        ZelMouseActionSettings::instance()->findAction(event, buttons, keys(modifiers));
-    Q_EMIT gestureMade({event, keys(modifiers), buttons}, action);
+        ZelMouseActionSettings::instance()->findAction(event, buttons, withDigit(modifiers));
+    Q_EMIT gestureMade({event, withDigit(modifiers), buttons}, action);
 }
 
 void GestureView::tellClick(Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
@@ -92,28 +97,6 @@ void GestureView::wheelEvent(QWheelEvent *event)
 void GestureView::contextMenuEvent(QContextMenuEvent *event)
 {
     event->accept();
-}
-
-void GestureView::keyPressEvent(QKeyEvent *event)
-{
-    if (event->key() != Qt::Key_1 && event->key() != Qt::Key_2)
-        return QLabel::keyPressEvent(event);
-    heldDigit_ = static_cast<Qt::Key>(event->key());
-}
-
-void GestureView::keyReleaseEvent(QKeyEvent *event)
-{
-    if (event->key() != heldDigit_)
-        return QLabel::keyReleaseEvent(event);
-    if (!event->isAutoRepeat())
-        heldDigit_ = Qt::Key_unknown;
-}
-
-void GestureView::focusOutEvent(QFocusEvent *event)
-{
-    // Its release goes elsewhere.
-    heldDigit_ = Qt::Key_unknown;
-    QLabel::focusOutEvent(event);
 }
 
 void GestureView::paintEvent(QPaintEvent *event)
