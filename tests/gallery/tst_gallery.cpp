@@ -268,7 +268,8 @@ void GalleryTest::theControlsSuitEveryFontSize()
     application_->setFontSize(points);
     const auto restore = qScopeGuard([this] { application_->setFontSize(-1); });
     const GalleryPage *page = nullptr;
-    for (const char *name : {"labels", "texts", "menus", "grouping", "messages", "buttons"}) {
+    for (const char *name :
+         {"labels", "texts", "menus", "grouping", "messages", "shortcuts", "buttons"}) {
         const int index = pageIndex(QLatin1String(name));
         window_->showPage(index);
         page = window_->page(index);

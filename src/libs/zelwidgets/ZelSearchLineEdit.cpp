@@ -2,9 +2,11 @@
 
 #include "theme/ZelStyleIcon.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QStyle>
 #include <QToolButton>
 
@@ -45,6 +47,18 @@ void ZelSearchLineEdit::setMenu(QMenu *menu)
     updateRoom();
 }
 
+void ZelSearchLineEdit::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    // The buttons have their style, and so their size, only now. They remember an earlier one until
+    // they are told.
+    for (QToolButton *button : {clearButton_, searchButton_}) {
+        QEvent change(QEvent::StyleChange);
+        QCoreApplication::sendEvent(button, &change);
+    }
+    updateRoom();
+}
+
 void ZelSearchLineEdit::resizeEvent(QResizeEvent *event)
 {
     QLineEdit::resizeEvent(event);
@@ -67,7 +81,6 @@ void ZelSearchLineEdit::keyPressEvent(QKeyEvent *event)
 void ZelSearchLineEdit::changeEvent(QEvent *event)
 {
     QLineEdit::changeEvent(event);
-    // The sheet that is set here comes back as a StyleChange, with nothing left to change.
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange ||
         event->type() == QEvent::LayoutDirectionChange)
         updateRoom();
@@ -90,6 +103,11 @@ bool ZelSearchLineEdit::isMirrored() const
 
 void ZelSearchLineEdit::updateRoom()
 {
+    // The sheet that is set here comes back as a StyleChange, while the buttons have lost their
+    // style and are larger.
+    if (isUpdatingRoom_)
+        return;
+    const QScopedValueRollback<bool> updating(isUpdatingRoom_, true);
     const QSize clear = clearButton_->sizeHint();
     const QSize search = searchButton_->sizeHint();
     int left = search.width() + frameWidth();

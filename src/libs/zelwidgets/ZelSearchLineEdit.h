@@ -20,6 +20,7 @@ public:
     void setMenu(QMenu *menu);
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -36,4 +37,5 @@ private:
 
     QToolButton *clearButton_;
     QToolButton *searchButton_;
+    bool isUpdatingRoom_ = false;
 };

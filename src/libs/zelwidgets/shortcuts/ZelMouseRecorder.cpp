@@ -54,6 +54,7 @@ ZelGesturePad::ZelGesturePad(QWidget *parent)
     label_->setAlignment(Qt::AlignCenter);
     label_->setWordWrap(true);
     label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    setMinimumHeight(5 * fontMetrics().lineSpacing());
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(label_);
 }

@@ -8,23 +8,18 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStackedWidget>
-
-namespace {
-
-enum Page { IdlePage, RecordPage };
-
-} // namespace
+#include <QStyle>
 
 ZelShortcutRecordPanel::ZelShortcutRecordPanel(QWidget *parent)
     : QFrame(parent)
-    , pages_(new QStackedWidget(this))
+    , idlePage_(createIdlePage())
+    , recordPage_(createRecordPage())
 {
     setFrameShape(QFrame::StyledPanel);
-    pages_->addWidget(createIdlePage());
-    pages_->addWidget(createRecordPage());
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(pages_);
+    layout->addWidget(idlePage_);
+    layout->addWidget(recordPage_);
     setShortcut({}, {}, true);
 }
 
@@ -38,7 +33,7 @@ QPushButton *ZelShortcutRecordPanel::addButton(const QString &text, const char *
 
 QWidget *ZelShortcutRecordPanel::createIdlePage()
 {
-    auto *page = new QWidget(pages_);
+    auto *page = new QWidget(this);
     name_ = new QLabel(page);
     name_->setWordWrap(true);
     name_->setTextFormat(Qt::PlainText);
@@ -49,7 +44,7 @@ QWidget *ZelShortcutRecordPanel::createIdlePage()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(name_, 1);
     for (QPushButton *button : {record_, reset_, clear_})
-        layout->addWidget(button, 0, Qt::AlignTop);
+        layout->addWidget(button);
     connect(record_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::recordRequested);
     connect(reset_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::resetRequested);
     connect(clear_, &QPushButton::clicked, this, &ZelShortcutRecordPanel::clearRequested);
@@ -58,17 +53,14 @@ QWidget *ZelShortcutRecordPanel::createIdlePage()
 
 QWidget *ZelShortcutRecordPanel::createRecordPage()
 {
-    auto *page = new QWidget(pages_);
+    auto *page = new QWidget(this);
     title_ = new QLabel(page);
     title_->setTextFormat(Qt::PlainText);
     title_->setWordWrap(true);
-    recorders_ = new QStackedWidget(page);
-    keys_ = new ZelKeyRecorder(recorders_);
+    keys_ = new ZelKeyRecorder(page);
     keys_->setObjectName(QStringLiteral("ShortcutKeyRecorder"));
     keys_->setAccessibleName(tr("New keys"));
-    gesture_ = new ZelMouseRecorder(recorders_);
-    recorders_->addWidget(keys_);
-    recorders_->addWidget(gesture_);
+    gesture_ = new ZelMouseRecorder(page);
     verdict_ = new QLabel(page);
     verdict_->setObjectName(QStringLiteral("ShortcutVerdict"));
     verdict_->setTextFormat(Qt::PlainText);
@@ -84,13 +76,14 @@ QWidget *ZelShortcutRecordPanel::createRecordPage()
     auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(title_);
-    layout->addWidget(recorders_, 1);
+    layout->addWidget(keys_);
+    layout->addWidget(gesture_);
     layout->addLayout(buttons);
 
     connect(keys_, &ZelKeyRecorder::recorded, this, &ZelShortcutRecordPanel::recorded);
     connect(keys_, &ZelKeyRecorder::finished, this, [this](const QKeySequence &sequence) {
         if (keys_->hasFocus())
-            (sequence.isEmpty() ? cancel_ : keep_)->setFocus(Qt::OtherFocusReason);
+            likelyAnswer(sequence.isEmpty())->setFocus(Qt::OtherFocusReason);
     });
     connect(gesture_, &ZelMouseRecorder::recorded, this, &ZelShortcutRecordPanel::recorded);
     connect(reassign_, &QPushButton::clicked, this, [this] { Q_EMIT accepted(true); });
@@ -99,9 +92,17 @@ QWidget *ZelShortcutRecordPanel::createRecordPage()
     return page;
 }
 
+/// What a user who just presses Return means.
+QPushButton *ZelShortcutRecordPanel::likelyAnswer(bool isEmpty) const
+{
+    if (isEmpty)
+        return cancel_;
+    return kind_ == ZelShortcutVerdict::SameScope ? reassign_ : keep_;
+}
+
 bool ZelShortcutRecordPanel::isRecording() const
 {
-    return pages_->currentIndex() == RecordPage;
+    return !recordPage_->isHidden();
 }
 
 void ZelShortcutRecordPanel::setShortcut(const QString &name, const QString &publicText,
@@ -138,27 +139,25 @@ void ZelShortcutRecordPanel::recordGesture(ZelMouseAction::Category category,
 
 void ZelShortcutRecordPanel::beginRecording(QWidget *recorder)
 {
-    recorders_->setCurrentWidget(recorder);
-    // The page is as low as what it shows.
-    for (QWidget *other : {static_cast<QWidget *>(keys_), static_cast<QWidget *>(gesture_)}) {
-        const auto policy = other == recorder ? QSizePolicy::Preferred : QSizePolicy::Ignored;
-        other->setSizePolicy(QSizePolicy::Preferred, policy);
-    }
+    keys_->setVisible(recorder == keys_);
+    gesture_->setVisible(recorder == gesture_);
     kind_ = ZelShortcutVerdict::Free;
     verdict_->clear();
-    pages_->setCurrentIndex(RecordPage);
+    recordPage_->show();
+    idlePage_->hide();
     updateButtons();
 }
 
 void ZelShortcutRecordPanel::endRecording()
 {
     keys_->reset();
-    pages_->setCurrentIndex(IdlePage);
+    idlePage_->show();
+    recordPage_->hide();
 }
 
 QString ZelShortcutRecordPanel::recordedText() const
 {
-    if (recorders_->currentWidget() == keys_)
+    if (!keys_->isHidden())
         return keys_->sequence().toString(QKeySequence::PortableText);
     const ZelMouseShortcut &gesture = gesture_->gesture();
     return ZelGestureChoice::isComplete(gesture) ? gesture.exportToString() : QString();
@@ -168,7 +167,11 @@ void ZelShortcutRecordPanel::setVerdict(const ZelShortcutVerdict &verdict)
 {
     kind_ = verdict.kind();
     verdict_->setText(recordedText().isEmpty() ? QString() : verdict.text());
+    for (QWidget *recorder : {static_cast<QWidget *>(keys_), static_cast<QWidget *>(gesture_)})
+        recorder->setAccessibleDescription(verdict_->text());
     verdict_->setProperty("warning", kind_ == ZelShortcutVerdict::SameScope);
+    verdict_->style()->unpolish(verdict_);
+    verdict_->style()->polish(verdict_);
     updateButtons();
 }
 

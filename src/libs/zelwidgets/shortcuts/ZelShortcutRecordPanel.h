@@ -7,7 +7,6 @@
 
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 class ZelKeyRecorder;
 class ZelMouseRecorder;
 
@@ -48,21 +47,22 @@ private:
     QPushButton *addButton(const QString &text, const char *name);
     void beginRecording(QWidget *recorder);
     void endRecording();
+    QPushButton *likelyAnswer(bool isEmpty) const;
     void updateButtons();
 
-    QStackedWidget *pages_;
     QLabel *name_;
     QPushButton *record_;
     QPushButton *reset_;
     QPushButton *clear_;
     QLabel *title_;
     QLabel *verdict_;
-    QStackedWidget *recorders_;
     ZelKeyRecorder *keys_;
     ZelMouseRecorder *gesture_;
     QPushButton *reassign_;
     QPushButton *keep_;
     QPushButton *cancel_;
+    QWidget *idlePage_;
+    QWidget *recordPage_;
     QString shortcutName_;
     ZelShortcutVerdict::Kind kind_ = ZelShortcutVerdict::Free;
 };

@@ -144,8 +144,10 @@ void ZelShortcutRows::showState(const Row &row) const
         states += text("Not applied");
     else if (row.shown.changed)
         states += text("Changed");
-    if (row.isOfPreset)
-        states += text("Preset: %1").arg(row.binding.gesture.publicShortcutText());
+    if (row.isOfPreset) {
+        const QString gesture = row.binding.gesture.publicShortcutText();
+        states += text("Preset: %1").arg(gesture.isEmpty() ? text("no gesture") : gesture);
+    }
     const QString state = states.join(QStringLiteral(", "));
     if (row.item->text(stateColumn) != state)
         row.item->setText(stateColumn, state);

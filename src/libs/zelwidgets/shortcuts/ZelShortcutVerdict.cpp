@@ -95,7 +95,7 @@ QString ZelShortcutVerdict::text() const
     case SameScope:
         return ::text("Used by %1 in the same scope").arg(names(usesOfKind()));
     }
-    return ::text("Not used yet");
+    return ::text("Not used by others");
 }
 
 QStringList ZelShortcutVerdict::losers() const

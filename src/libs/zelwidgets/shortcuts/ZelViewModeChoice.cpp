@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <utility>
+
 namespace {
 
 constexpr int modeCount = 14;
@@ -56,6 +58,7 @@ void ZelViewModeChoice::remember()
 {
     mode_ = settings().viewMode();
     dolly_ = settings().dollyZoomInMode();
+    isTouched_ = false;
     refresh();
 }
 
@@ -68,7 +71,7 @@ void ZelViewModeChoice::store()
 
 void ZelViewModeChoice::restore()
 {
-    if (isChanged()) {
+    if (isChanged() || std::exchange(isTouched_, false)) {
         settings().setViewMode(mode_);
         // The mode brings one of its own along.
         settings().setDollyZoomInMode(dolly_);

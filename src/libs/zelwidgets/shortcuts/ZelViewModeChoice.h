@@ -18,6 +18,8 @@ public:
     bool isChanged() const;
     /// Shows the mode in force, which others may have set.
     void refresh();
+    /// Others have set the mode, or its gestures, on behalf of the user.
+    void touch() { isTouched_ = true; }
     /// What is in force is what restore() comes back to.
     void remember();
     void store();
@@ -32,4 +34,5 @@ private:
     QComboBox *box_;
     ViewCtrl::ViewMode mode_;
     ViewCtrl::DollyMouseMode dolly_;
+    bool isTouched_ = false;
 };
