@@ -1,9 +1,7 @@
 // Several objects with one key: which one is meant, and what is left of it afterwards.
 
-#include "KeyDesk.h"
-#include "TestCase.h"
+#include "KeyDeskTest.h"
 #include "shortcuts/ZelConflictChoice.h"
-#include "shortcuts/ZelShortcutConflictHandler.h"
 
 #include <ZelWidgets/HotKeysDisableEnable>
 #include <ZelWidgets/ZelAction>
@@ -15,29 +13,10 @@
 #include <QDockWidget>
 #include <QListWidget>
 #include <QMenu>
-#include <QMenuBar>
-#include <QSignalSpy>
 
 namespace {
 
-const QString idA = QStringLiteral("cam.aFirst");
-const QString idB = QStringLiteral("cam.bSecond");
-const QString copyId = QStringLiteral("gen.aCopy");
 const QString deleteId = QStringLiteral("gen.cDelete");
-const QString one = QStringLiteral("one");
-const QString two = QStringLiteral("two");
-const QKeySequence ctrlD(QStringLiteral("Ctrl+D"));
-using Names = QStringList;
-
-bool realKeys()
-{
-    return qEnvironmentVariableIsSet("ZEL_REAL_KEYS");
-}
-
-int handlerCount(const QObject *parent)
-{
-    return static_cast<int>(parent->findChildren<ZelShortcutConflictHandler *>().size());
-}
 
 /// Keys that reach it may go back to the handler of conflicts.
 class EatingView : public QWidget
@@ -68,47 +47,11 @@ protected:
 
 } // namespace
 
-class TestShortcutConflicts : public TestCase
+class TestShortcutConflicts : public KeyDeskTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<KeyDesk> desk_;
-
-    void start()
-    {
-        QVERIFY(desk_->show());
-        registry().setSystemInitialized(desk_->window());
-    }
-    static ZelShortcutHandler &registry() { return *ZelShortcutHandler::instance(); }
-    QStringList pressed(Qt::Key key = Qt::Key_D, Qt::KeyboardModifiers held = Qt::ControlModifier)
-    {
-        desk_->press(key, held);
-        return desk_->takeFired();
-    }
-    bool hasReport()
-    {
-        return messages()
-            .messages(QtDebugMsg)
-            .join(u'\n')
-            .contains(QStringLiteral("Hotkey conflict with"));
-    }
-
 private Q_SLOTS:
-    void init()
-    {
-        TestCase::init();
-        ZelShortcutHandler::destroy();
-        ZelShortcutHandler::prepareInstance();
-        desk_ = std::make_unique<KeyDesk>(realKeys());
-    }
-    void cleanup()
-    {
-        desk_.reset();
-        ZelShortcutHandler::destroy();
-        TestCase::cleanup();
-    }
-
     void filtersByContext();
     void scoresByDistance();
     void firesTheFocusedView_data();
@@ -120,17 +63,8 @@ private Q_SLOTS:
     void worksFromAFloatingToolWindow();
     void worksForAnActionOfTheFocusWidget();
     void handsOnAKeyThatNobodyWants();
-    void givesEverythingBack();
-    void givesAWrappedActionBack();
-    void takesNewObjectsIn();
-    void firesAPairOnce_data();
-    void firesAPairOnce();
-    void survivesItsSlots_data();
-    void survivesItsSlots();
-    void survivesDeathsInARebuild();
     void staysOnWhileHotKeysAreOff();
     void knowsWhoSharesAWindow();
-    void tellsTooManyObjects();
     void worksWithOtherLayouts_data();
     void worksWithOtherLayouts();
 };
@@ -237,6 +171,12 @@ void TestShortcutConflicts::firesTheFocusedView()
     QCOMPARE(handlerCount(desk_->window()), 1);
     QVERIFY(desk_->focus(desk_->right()));
     QCOMPARE(pressed(), Names{two});
+    const QList<ZelConflictStanding> standings = registry().conflictStandings(ctrlD);
+    QCOMPARE(standings.size(), 2);
+    QCOMPARE(standings[0].text, two);
+    QCOMPARE(standings[0].score.value_or(-1), 200);
+    QVERIFY(standings[0].isMeant && !standings[1].isMeant);
+    QCOMPARE(standings[1].score.value_or(-1), 204);
     QVERIFY(desk_->focus(desk_->left()));
     QCOMPARE(pressed(), Names{one});
     QVERIFY(!hasReport());
@@ -254,6 +194,8 @@ void TestShortcutConflicts::tellsATieAndFiresNothing()
     between->show();
     QVERIFY(desk_->focus(between));
     QCOMPARE(pressed(), Names());
+    for (const ZelConflictStanding &standing : registry().conflictStandings(ctrlD))
+        QVERIFY(standing.score == 204 && standing.isEnabled && !standing.isMeant);
     QCOMPARE(messages().messages(QtDebugMsg),
              (Names{QStringLiteral("-----------------------------------------"),
                     QStringLiteral("Hotkey conflict with 'one' and 'two' (204))"),
@@ -367,179 +309,6 @@ void TestShortcutConflicts::handsOnAKeyThatNobodyWants()
     QCOMPARE(view->keys.size(), 1);
 }
 
-void TestShortcutConflicts::givesEverythingBack()
-{
-    QAction *action = desk_->action(idA, one, ctrlD, desk_->left())->qAction();
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    ZelShortcut *shortcut = desk_->shortcut(idB, two, ctrlD, desk_->right());
-    start();
-    QCOMPARE(action->shortcut(), ctrlD);
-    QCOMPARE(action->shortcutContext(), Qt::WidgetShortcut);
-    QVERIFY(shortcut->key().isEmpty());
-    // Registering what a handler holds changes nothing.
-    registry().registerOrChangeShortcut(*shortcut);
-    QVERIFY(shortcut->key().isEmpty());
-    registry().resetAllOnlyCallThisFromAutoTests();
-    QCOMPARE(handlerCount(desk_->window()), 0);
-    QCOMPARE(action->shortcutContext(), Qt::WidgetWithChildrenShortcut);
-    QCOMPARE(shortcut->key(), ctrlD);
-    shortcut->setEnabled(false);
-    QVERIFY(desk_->focus(desk_->left()));
-    QCOMPARE(pressed(), Names{one});
-}
-
-void TestShortcutConflicts::givesAWrappedActionBack()
-{
-    // Two wrap one action, which is one thing for Qt: no conflict, and later none that ties.
-    auto *action = new QAction(one, desk_->left());
-    action->setShortcut(ctrlD);
-    desk_->window()->addAction(action);
-    QObject::connect(action, &QAction::triggered, desk_->window(), [this] { desk_->note(one); });
-    auto wrapper = std::make_unique<ZelAction>(idA, action, nullptr);
-    auto second = std::make_unique<ZelAction>(idB, action, nullptr);
-    start();
-    QCOMPARE(handlerCount(desk_->window()), 0);
-    desk_->action(idB, two, ctrlD, desk_->right());
-    QCOMPARE(handlerCount(desk_->window()), 1);
-    QCOMPARE(pressed(), Names{one});
-    wrapper.reset();
-    QCOMPARE(action->shortcutContext(), Qt::WidgetShortcut);
-    second.reset();
-    QCOMPARE(action->shortcutContext(), Qt::WindowShortcut);
-    registry().applyCurrentSettingsToShortcuts();
-    QCOMPARE(action->shortcutContext(), Qt::WindowShortcut);
-    desk_->right()->actions().constFirst()->setShortcut({});
-    QCOMPARE(pressed(), Names{one});
-}
-
-void TestShortcutConflicts::takesNewObjectsIn()
-{
-    desk_->action(idA, one, ctrlD, desk_->left());
-    start();
-    QCOMPARE(handlerCount(desk_->window()), 0);
-    for (int round = 0; round < 3; ++round) {
-        const std::unique_ptr<ZelShortcut> late(desk_->shortcut(idB, two, ctrlD, desk_->right()));
-        QCOMPARE(handlerCount(desk_->window()), 1);
-        QVERIFY(late->key().isEmpty());
-        QVERIFY(desk_->focus(desk_->right()));
-        QCOMPARE(pressed(), Names{two});
-    }
-    // One is left in the handler: it still has its key, and a rebuild ends the handler.
-    QVERIFY(desk_->focus(desk_->left()));
-    QCOMPARE(pressed(), Names{one});
-    registry().applyCurrentSettingsToShortcuts();
-    QCOMPARE(handlerCount(desk_->window()), 0);
-    QCOMPARE(pressed(), Names{one});
-}
-
-void TestShortcutConflicts::firesAPairOnce_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<bool>("initialized");
-    QTest::addColumn<bool>("third");
-    QTest::newRow("before the start is over") << idA << false << false;
-    QTest::newRow("alone") << idA << true << false;
-    QTest::newRow("alone, of each view") << copyId << true << false;
-    QTest::newRow("with a third") << idA << true << true;
-    QTest::newRow("with a third, of each view") << copyId << true << true;
-}
-
-void TestShortcutConflicts::firesAPairOnce()
-{
-    QFETCH(QString, id);
-    QFETCH(bool, initialized);
-    QFETCH(bool, third);
-    auto *action = new QAction(one, desk_->left());
-    action->setShortcut(ctrlD);
-    desk_->window()->menuBar()->addMenu(QStringLiteral("Menu"))->addAction(action);
-    QObject::connect(action, &QAction::triggered, desk_->window(),
-                     [this] { desk_->note(QStringLiteral("action")); });
-    ZelShortcut shortcut(id, action, desk_->left());
-    QObject::connect(&shortcut, &QShortcut::activated, desk_->window(),
-                     [this] { desk_->note(one); });
-    if (third)
-        desk_->action(id, two, ctrlD, desk_->right());
-    if (initialized)
-        start();
-    else
-        QVERIFY(desk_->show());
-    for (int turn = 0; turn < 4; ++turn)
-        QCOMPARE(pressed(), Names{one});
-    shortcut.setEnabled(false);
-    QCOMPARE(pressed(), Names{QStringLiteral("action")});
-    QVERIFY(!hasReport());
-}
-
-void TestShortcutConflicts::survivesItsSlots_data()
-{
-    QTest::addColumn<int>("way");
-    QTest::newRow("deletes its view") << 0;
-    QTest::newRow("applies the keys") << 1;
-    QTest::newRow("deletes the other view") << 2;
-    QTest::newRow("ends the registry") << 3;
-    QTest::newRow("deletes its action") << 4;
-}
-
-void TestShortcutConflicts::survivesItsSlots()
-{
-    QFETCH(int, way);
-    ZelAction *action = desk_->action(idA, one, ctrlD, desk_->left());
-    desk_->shortcut(idB, two, ctrlD, desk_->right());
-    start();
-    QObject::connect(action, qOverload<>(&ZelAction::triggered), [this, way, action] {
-        if (way == 0)
-            delete desk_->left();
-        else if (way == 1)
-            registry().applyCurrentSettingsToShortcuts();
-        else if (way == 2)
-            delete desk_->right();
-        else if (way == 3)
-            ZelShortcutHandler::destroy();
-        else
-            delete action;
-    });
-    QCOMPARE(pressed(), Names{one});
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (way == 3)
-        ZelShortcutHandler::prepareInstance();
-    registry().applyCurrentSettingsToShortcuts();
-    QCOMPARE(handlerCount(desk_->window()), way == 1 ? 1 : 0);
-    if (way == 2 || way == 3)
-        return;
-    QVERIFY(desk_->focus(desk_->right()));
-    QCOMPARE(pressed(), Names{two});
-}
-
-void TestShortcutConflicts::survivesDeathsInARebuild()
-{
-    // Actions tell that they change while they are taken out of Qt's map.
-    QList<QPointer<ZelAction>> actions;
-    for (int number = 0; number < 40; ++number) {
-        const QKeySequence key(Qt::CTRL | Qt::Key(Qt::Key_A + number % 5));
-        actions << desk_->action(QStringLiteral("cam.x%1").arg(number), one, key, desk_->left());
-    }
-    int countdown = 30;
-    bool applies = false;
-    const auto disturb = [&] {
-        if (--countdown <= 0 || countdown % 3)
-            return;
-        delete actions.takeLast();
-        desk_->action(QStringLiteral("cam.y%1").arg(countdown), two, ctrlD, desk_->right());
-        if (std::exchange(applies, false))
-            registry().applyCurrentSettingsToShortcuts();
-    };
-    for (int number = 0; number < 10; ++number)
-        QObject::connect(actions[number], &ZelAction::changed, desk_->window(), disturb);
-    start();
-    countdown = 30;
-    applies = true;
-    registry().applyCurrentSettingsToShortcuts();
-    countdown = 30;
-    registry().resetAllOnlyCallThisFromAutoTests();
-    for (const QPointer<ZelAction> &action : std::as_const(actions))
-        QCOMPARE(action->qAction()->shortcutContext(), Qt::WindowShortcut);
-}
-
 void TestShortcutConflicts::staysOnWhileHotKeysAreOff()
 {
     desk_->action(idA, one, ctrlD, desk_->left());
@@ -578,34 +347,6 @@ void TestShortcutConflicts::knowsWhoSharesAWindow()
     QVERIFY(!registry().hasScopeConflictMouse(tumble, idA));
 }
 
-void TestShortcutConflicts::tellsTooManyObjects()
-{
-    constexpr int limit = 1000;
-    start();
-    const auto warnings = [this] {
-        return messages().messages(QtWarningMsg).size();
-    };
-    QObject holder;
-    for (int number = 0; number < 3 * limit; ++number)
-        ZelAction(QStringLiteral("cam.x"), one, {}, nullptr);
-    QCOMPARE(warnings(), 0);
-    // One more than the limit is there when the last one comes.
-    const QString text = QStringLiteral("Clean limit (or other) issue in ZelShortcuthandler");
-    messages().expect(QtWarningMsg, text);
-    messages().expect(QtWarningMsg, text);
-    int live = 0;
-    while (warnings() == 0 && live < 3 * limit) {
-        new ZelAction(QStringLiteral("cam.x"), one, {}, &holder);
-        ++live;
-    }
-    QVERIFY(live <= limit + 2);
-    new ZelAction(QStringLiteral("cam.x"), one, {}, &holder);
-    QCOMPARE(warnings(), 2);
-    qDeleteAll(holder.children());
-    ZelAction(QStringLiteral("cam.x"), one, {}, nullptr);
-    QCOMPARE(warnings(), 2);
-}
-
 void TestShortcutConflicts::worksWithOtherLayouts_data()
 {
     QTest::addColumn<QString>("layout");
@@ -641,11 +382,7 @@ void TestShortcutConflicts::worksWithOtherLayouts()
 
 int main(int argc, char **argv)
 {
-    constexpr int skipped = 77;
-    KeyServer server;
-    if (realKeys() && !server.start())
-        return skipped;
-    return runTests<TestShortcutConflicts>(argc, argv);
+    return runKeyTests<TestShortcutConflicts>(argc, argv);
 }
 
 #include "tst_shortcut_conflicts.moc"

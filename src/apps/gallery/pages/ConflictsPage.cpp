@@ -4,6 +4,7 @@
 #include <ZelWidgets/ZelShortcutHandler>
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -21,32 +22,38 @@ const QString frameId = QStringLiteral("cam.pFrame");
 const QString storeId = QStringLiteral("cam.qStore");
 const QString deleteId = QStringLiteral("gen.cDelete");
 
-/// A panel that takes the focus and shows it by its frame.
+/// A panel that takes the focus and tells so.
 class View : public QFrame
 {
 public:
-    explicit View(QWidget *parent)
+    View(const QString &name, QWidget *parent)
         : QFrame(parent)
+        , name_(name)
+        , label_(new QLabel(name, this))
     {
+        setAccessibleName(name);
         setFocusPolicy(Qt::StrongFocus);
         setFrameStyle(StyledPanel | Plain);
-        setLayout(new QVBoxLayout);
+        auto *layout = new QVBoxLayout(this);
+        layout->addWidget(label_);
+        layout->addStretch(1);
     }
 
 protected:
     void focusInEvent(QFocusEvent *event) override
     {
         QFrame::focusInEvent(event);
-        setLineWidth(focusedWidth);
+        label_->setText(ConflictsPage::tr("%1, with the focus").arg(name_));
     }
     void focusOutEvent(QFocusEvent *event) override
     {
         QFrame::focusOutEvent(event);
-        setLineWidth(1);
+        label_->setText(name_);
     }
 
 private:
-    static constexpr int focusedWidth = 3;
+    const QString name_;
+    QLabel *label_;
 };
 
 /// Delete takes the chosen entry away.
@@ -99,23 +106,20 @@ void ConflictsPage::addViews()
     list->setFixedHeight(list->sizeHintForRow(0) * 4);
     list->installEventFilter(this);
     left->layout()->addWidget(list);
-    auto *button = new QPushButton(tr("&Tool window"), this);
-    button->setCheckable(true);
-    button->installEventFilter(this);
-    connect(button, &QPushButton::toggled, this, [this](bool on) {
+    toolButton_ = new QPushButton(tr("T&ool window"), this);
+    toolButton_->setCheckable(true);
+    toolButton_->installEventFilter(this);
+    connect(toolButton_, &QPushButton::toggled, this, [this](bool on) {
         toolWindow_->setVisible(on);
         if (on)
             toolWindow_->activateWindow();
     });
-    section->addWidget(button, 0, Qt::AlignLeft);
-    button->setObjectName(QStringLiteral("toolWindowButton"));
+    section->addWidget(toolButton_, 0, Qt::AlignLeft);
 }
 
 QWidget *ConflictsPage::createView(const QString &name)
 {
-    auto *view = new View(this);
-    view->setAccessibleName(name);
-    view->layout()->addWidget(new QLabel(name, view));
+    auto *view = new View(name, this);
     view->installEventFilter(this);
     const bool isFirst = actions_.isEmpty();
     addAction(view, frameId, tr("Frame (%1)").arg(name), frameKey);
@@ -130,17 +134,14 @@ void ConflictsPage::addToolWindow()
     toolWindow_ = new QWidget(this, Qt::Tool);
     toolWindow_->setWindowTitle(tr("Tool window"));
     auto *layout = new QVBoxLayout(toolWindow_);
-    auto *view = new View(toolWindow_);
     const QString name = tr("Tool window");
-    view->setAccessibleName(name);
+    auto *view = new View(name, toolWindow_);
     view->layout()->addWidget(
         new QLabel(tr("Stores by itself; the key to frame\ngoes to the page."), view));
     view->installEventFilter(this);
     layout->addWidget(view);
     addAction(view, storeId + QStringLiteral("Tool"), tr("Store (%1)").arg(name), storeKey);
-    auto *button = findChild<QPushButton *>(QStringLiteral("toolWindowButton"));
     toolWindow_->installEventFilter(this);
-    connect(toolWindow_, &QObject::destroyed, button, &QPushButton::hide);
 }
 
 void ConflictsPage::addAction(QWidget *view, const QString &id, const QString &text,
@@ -171,11 +172,12 @@ void ConflictsPage::addTable()
 
 bool ConflictsPage::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
+    // The event comes by the parents of the one with the focus, too.
+    if (event->type() == QEvent::ShortcutOverride && watched == QApplication::focusWidget()) {
         const auto *press = static_cast<QKeyEvent *>(event);
         showStandings(QKeySequence(press->keyCombination()));
     } else if (watched == toolWindow_ && event->type() == QEvent::Close) {
-        findChild<QPushButton *>(QStringLiteral("toolWindowButton"))->setChecked(false);
+        toolButton_->setChecked(false);
     }
     return GalleryPage::eventFilter(watched, event);
 }
@@ -216,7 +218,7 @@ void ConflictsPage::hideEvent(QHideEvent *event)
 {
     GalleryPage::hideEvent(event);
     switchActions(false);
-    findChild<QPushButton *>(QStringLiteral("toolWindowButton"))->setChecked(false);
+    toolButton_->setChecked(false);
 }
 
 /// Off while the page is hidden: the keys reach it from the whole window.

@@ -2,10 +2,9 @@
 
 #include "GalleryPage.h"
 
-#include <QPointer>
-
 class QKeySequence;
 class QLabel;
+class QPushButton;
 class QTreeWidget;
 class ZelAction;
 
@@ -35,6 +34,7 @@ private:
 
     QTreeWidget *table_ = nullptr;
     QLabel *pressed_ = nullptr;
-    QPointer<QWidget> toolWindow_;
+    QPushButton *toolButton_ = nullptr;
+    QWidget *toolWindow_ = nullptr;
     QList<ZelAction *> actions_;
 };

@@ -1,6 +1,6 @@
 #include "ZelAction.h"
 
-#include "ZelShortcutHandler.h"
+#include "ZelShortcutHandler_p.h"
 
 #include <QAction>
 #include <QEvent>
@@ -45,6 +45,7 @@ ZelAction::ZelAction(const QString &id, QAction *action, QObject *parent)
 
 ZelAction::~ZelAction()
 {
+    ZelShortcutHandlerPrivate::hasDead = true;
     // Handlers of conflicts give the action its context back once they hear of this end.
     if (action_)
         action_->disconnect(this);

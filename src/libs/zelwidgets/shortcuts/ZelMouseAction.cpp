@@ -1,6 +1,6 @@
 #include "ZelMouseAction.h"
 
-#include "ZelShortcutHandler.h"
+#include "ZelShortcutHandler_p.h"
 
 ZelMouseAction::ZelMouseAction(const QString &id, QString text, Category category,
                                ZelMouseShortcut shortcut, QObject *parent)
@@ -14,7 +14,10 @@ ZelMouseAction::ZelMouseAction(const QString &id, QString text, Category categor
     ZelShortcutHandler::instance()->registerOrChangeMouseAction(*this);
 }
 
-ZelMouseAction::~ZelMouseAction() = default;
+ZelMouseAction::~ZelMouseAction()
+{
+    ZelShortcutHandlerPrivate::hasDead = true;
+}
 
 QString ZelMouseAction::internalShortcutTxt() const
 {

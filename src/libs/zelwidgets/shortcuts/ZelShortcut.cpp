@@ -1,7 +1,7 @@
 #include "ZelShortcut.h"
 
 #include "ZelAction.h"
-#include "ZelShortcutHandler.h"
+#include "ZelShortcutHandler_p.h"
 
 #include <QAction>
 #include <QDebug>
@@ -56,7 +56,10 @@ ZelShortcut::ZelShortcut(QAction *action, QWidget *parent, const char *member)
         enroll();
 }
 
-ZelShortcut::~ZelShortcut() = default;
+ZelShortcut::~ZelShortcut()
+{
+    ZelShortcutHandlerPrivate::hasDead = true;
+}
 
 void ZelShortcut::enroll()
 {

@@ -161,6 +161,26 @@ bool ZelShortcutConflictHandler::holds(const QObject *object) const
                        [object](const ConflictMember &member) { return member.isObject(object); });
 }
 
+QList<QObject *> ZelShortcutConflictHandler::objects() const
+{
+    QList<QObject *> objects;
+    for (const ConflictMember &member : members_)
+        objects.append(member.object());
+    return objects;
+}
+
+bool ZelShortcutConflictHandler::isFor(const QList<QPointer<QObject>> &objects) const
+{
+    const QWidget *mainWidget = ZelShortcutHandlerPrivate::mainWidget();
+    if (mainWidget && parent() != mainWidget)
+        return false;
+    return std::equal(members_.begin(), members_.end(), objects.begin(), objects.end(),
+                      [this](const ConflictMember &member, const QPointer<QObject> &object) {
+                          return member.isObject(object) &&
+                                 (member.isShortcut() || member.key() == key());
+                      });
+}
+
 void ZelShortcutConflictHandler::removeDead()
 {
     QList<ConflictMember> dead;

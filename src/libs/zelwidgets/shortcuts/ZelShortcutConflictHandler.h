@@ -29,7 +29,9 @@ public:
     /// hears of the change of an action may take the handler or the object away.
     void add(QObject *object);
     bool holds(const QObject *object) const;
-    int memberCount() const { return static_cast<int>(members_.size()); }
+    QList<QObject *> objects() const;
+    /// Whether it is what make() and add() would make of these, in this order.
+    bool isFor(const QList<QPointer<QObject>> &objects) const;
     /// Gives the members their keys back and goes, at once or when the present press is over.
     void dismiss();
 

@@ -8,6 +8,7 @@
 
 #include <ZelWidgets/GlobalEventFilter>
 
+#include <QAction>
 #include <QScopedValueRollback>
 #include <QSet>
 
@@ -19,7 +20,10 @@ constexpr qsizetype handlerLimit = 3001;
 
 QKeySequence keyOf(QObject *object)
 {
-    return object ? ConflictMember(object).key() : QKeySequence();
+    if (const auto *action = qobject_cast<ZelAction *>(object))
+        return action->qAction() ? action->qAction()->shortcut() : QKeySequence();
+    const auto *shortcut = qobject_cast<ZelShortcut *>(object);
+    return shortcut ? shortcut->key() : QKeySequence();
 }
 
 /// Whether any two of the objects could be meant by one key.
@@ -68,17 +72,44 @@ bool ZelShortcutHandlerPrivate::isHeldNow(const QObject *object, const QKeySeque
 
 void ZelShortcutHandlerPrivate::deleteConflictHandlers()
 {
+    deleteHandlersBut({});
+}
+
+void ZelShortcutHandlerPrivate::deleteOutdatedHandlers()
+{
+    QSet<const ZelShortcutConflictHandler *> kept;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        if (!handler)
+            continue;
+        const QString key = handler->key().toString(QKeySequence::PortableText);
+        const QList<QObject *> objects = handler->objects();
+        const bool isInForce = std::all_of(objects.begin(), objects.end(), [&](QObject *object) {
+            const auto entry = entries.constFind(ConflictMember(object).id());
+            return entry == entries.constEnd() || entry->currentKey == key;
+        });
+        if (isInForce)
+            kept << handler;
+    }
+    deleteHandlersBut(kept);
+}
+
+void ZelShortcutHandlerPrivate::deleteHandlersBut(
+    const QSet<const ZelShortcutConflictHandler *> &kept)
+{
     // Objects that are made meanwhile must not get hold of those that are still to be given back.
     const QScopedValueRollback<bool> batch(batchUpdate, true);
-    handlersByKey.clear();
     // Each stays in the list until all is given back, for those who apply keys on hearing of that.
-    while (!conflictHandlers.isEmpty()) {
-        const QPointer<ZelShortcutConflictHandler> handler = conflictHandlers.last();
-        if (handler)
-            handler->dismiss();
-        conflictHandlers.removeOne(handler);
-        conflictHandlers.removeAll(QPointer<ZelShortcutConflictHandler>());
+    const QList<QPointer<ZelShortcutConflictHandler>> handlers = conflictHandlers;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : handlers) {
+        if (!handler || (kept.contains(handler) && !handler->objects().isEmpty()))
+            continue;
+        if (handlerOf(handler->key()) == handler)
+            handlersByKey.remove(handler->key());
+        handler->dismiss();
     }
+    conflictHandlers.removeIf([](const QPointer<ZelShortcutConflictHandler> &handler) {
+        return !handler || handler->objects().isEmpty();
+    });
 }
 
 void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
@@ -137,19 +168,27 @@ void ZelShortcutHandlerPrivate::makeHandler(Group group)
     }
 }
 
-void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
+QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
 {
-    deleteConflictHandlers();
-    objectsByKey.clear();
+    QHash<const QObject *, QKeySequence> lent;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        for (const QObject *object : handler ? handler->objects() : QList<QObject *>()) {
+            if (qobject_cast<const ZelShortcut *>(object))
+                lent.insert(object, handler->key());
+        }
+    }
     QHash<QKeySequence, qsizetype> positions;
     QList<Group> groups;
     QSet<QObject *> seen;
+    positions.reserve(liveObjects.size());
+    seen.reserve(liveObjects.size());
     for (const QPointer<QObject> &object : std::as_const(liveObjects)) {
-        const QKeySequence key = keyOf(object);
+        QKeySequence key = keyOf(object);
+        if (key.isEmpty())
+            key = lent.value(object);
         if (key.isEmpty() || seen.contains(object))
             continue;
         seen << object;
-        objectsByKey[key].append(object);
         const auto position = positions.constFind(key);
         if (position != positions.constEnd()) {
             groups[*position].append(object);
@@ -158,6 +197,32 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
             groups.append({object});
         }
     }
+    objectsByKey.clear();
+    objectsByKey.reserve(groups.size());
+    for (auto position = positions.constBegin(); position != positions.constEnd(); ++position)
+        objectsByKey.insert(position.key(), groups[*position]);
+    return groups;
+}
+
+/// Handlers that would come out the same stay: taking an action out of Qt's map and putting it back
+/// takes time that grows with the number of all shortcuts.
+void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
+{
+    QList<Group> groups = groupByKeys();
+    QHash<const QObject *, ZelShortcutConflictHandler *> handlerOfFirst;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
+        if (handler && !handler->objects().isEmpty())
+            handlerOfFirst.insert(handler->objects().constFirst(), handler);
+    }
+    QSet<const ZelShortcutConflictHandler *> kept;
+    groups.removeIf([&](const Group &group) {
+        const ZelShortcutConflictHandler *handler = handlerOfFirst.value(group.constFirst());
+        const bool isKept = handler && group.size() > 1 && handler->isFor(group);
+        if (isKept)
+            kept << handler;
+        return isKept;
+    });
+    deleteHandlersBut(kept);
     for (const Group &group : std::as_const(groups))
         makeHandler(group);
 }

@@ -117,25 +117,30 @@ void ZelShortcutHandler::registerActionOrSetShortcut(ZelAction &action)
     QAction *qAction = action.qAction();
     if (!qAction)
         return;
-    const QString key =
-        registerShortcut(action.id(), qAction->text(), portable(qAction->shortcut()));
+    const QString asked = portable(qAction->shortcut());
+    const QString key = registerShortcut(action.id(), qAction->text(), asked);
     if (ZelHotKeyMaterials::isMaterialId(action.id()) && qAction->text().isEmpty())
         qAction->setText(d_->entries.value(action.id()).text);
-    const QKeySequence sequence = fromPortable(key);
-    if (sequence != qAction->shortcut())
-        qAction->setShortcut(sequence);
+    if (key != asked) {
+        const QKeySequence sequence = fromPortable(key);
+        if (sequence != qAction->shortcut())
+            qAction->setShortcut(sequence);
+    }
     d_->addLiveObject(&action);
 }
 
 void ZelShortcutHandler::registerOrChangeShortcut(ZelShortcut &shortcut)
 {
-    const QString key = registerShortcut(shortcut.id(), shortcut.text(), portable(shortcut.key()));
+    const QString asked = portable(shortcut.key());
+    const QString key = registerShortcut(shortcut.id(), shortcut.text(), asked);
     if (ZelHotKeyMaterials::isMaterialId(shortcut.id()) && shortcut.text().isEmpty())
         shortcut.setText(d_->entries.value(shortcut.id()).text);
-    const QKeySequence sequence = fromPortable(key);
-    // A handler of conflicts may have taken the key away for the time being.
-    if (sequence != shortcut.key() && !d_->isHeld(&shortcut, sequence))
-        shortcut.setKey(sequence);
+    if (key != asked) {
+        const QKeySequence sequence = fromPortable(key);
+        // A handler of conflicts may have taken the key away for the time being.
+        if (sequence != shortcut.key() && !d_->isHeld(&shortcut, sequence))
+            shortcut.setKey(sequence);
+    }
     d_->addLiveObject(&shortcut);
 }
 
@@ -210,7 +215,7 @@ bool ZelShortcutHandler::changeShortcut(QString id, QString key, bool apply)
 void ZelShortcutHandler::applyCurrentSettingsToShortcuts()
 {
     // Handlers give their members the old key back when they go.
-    d_->deleteConflictHandlers();
+    d_->deleteOutdatedHandlers();
     const QList<QPointer<QObject>> objects = std::exchange(d_->liveObjects, {});
     {
         const QScopedValueRollback<bool> batch(d_->batchUpdate, true);
@@ -252,12 +257,13 @@ QPointer<QWidget> &ZelShortcutHandlerPrivate::mainWidget()
 
 void ZelShortcutHandlerPrivate::removeDead()
 {
+    hasDead = false;
     liveObjects.removeIf([](const QPointer<QObject> &object) { return object.isNull(); });
 }
 
 void ZelShortcutHandlerPrivate::addLiveObject(QObject *object)
 {
-    if (liveObjects.size() > cleanLimit)
+    if (liveObjects.size() > cleanLimit && hasDead)
         removeDead();
     if (liveObjects.size() > cleanLimit)
         qWarning() << "Clean limit (or other) issue in ZelShortcuthandler";

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QMap>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 class ZelShortcutConflictHandler;
@@ -52,6 +53,9 @@ public:
     QHash<QKeySequence, QList<QPointer<QObject>>> objectsByKey;
     bool systemInitialized = false;
     bool batchUpdate = false;
+    /// A live object has died since the dead ones were last removed. The objects tell themselves,
+    /// also when there is no registry any more.
+    static inline bool hasDead = false;
 
     static GlobalShortcutSettings &global();
     static QPointer<QWidget> &mainWidget();
@@ -63,6 +67,8 @@ public:
 
     // Conflicts
     void deleteConflictHandlers();
+    /// Those with a member that is to have another key.
+    void deleteOutdatedHandlers();
     void lookForConflict(QObject *object);
     void rebuildConflictHandlers();
     ZelShortcutConflictHandler *handlerOf(const QKeySequence &key) const;
@@ -74,4 +80,7 @@ private:
     using Group = QList<QPointer<QObject>>;
     void rememberKey(QObject *object, const QKeySequence &key);
     void makeHandler(Group group);
+    void deleteHandlersBut(const QSet<const ZelShortcutConflictHandler *> &kept);
+    /// The live objects by their keys, those that are lent to handlers included.
+    QList<Group> groupByKeys();
 };
