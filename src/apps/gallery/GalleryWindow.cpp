@@ -7,6 +7,7 @@
 
 #include <ZelCore/ZelSettings>
 #include <ZelWidgets/ZelAction>
+#include <ZelWidgets/ZelCommandPalette>
 #include <ZelWidgets/ZelShortcutHandler>
 #include <ZelWidgets/ZelStyleIcon>
 #include <ZelWidgets/ZelStyleSheets>
@@ -178,7 +179,17 @@ void GalleryWindow::createActions()
         "if.eFilterPages",
         view->addAction(tr("&Filter pages"), QKeySequence::Find, this, &GalleryWindow::focusFilter),
         this);
+    createPaletteEntry(view);
     createThemeMenu();
+}
+
+void GalleryWindow::createPaletteEntry(QMenu *menu)
+{
+    auto *commands = new ZelCommandPalette(this);
+    bindable("if.gCommandPalette",
+             menu->addAction(tr("&Command palette"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+                             commands, &ZelCommandPalette::open),
+             this);
 }
 
 void GalleryWindow::focusFilter()

@@ -9,6 +9,7 @@ class QAction;
 class QComboBox;
 class QLineEdit;
 class QListWidget;
+class QMenu;
 class QStackedWidget;
 
 /// The gallery's main window: the page list with its filter at the left, the page in the middle,
@@ -34,6 +35,7 @@ protected:
 private:
     QWidget *createPageList();
     void createActions();
+    void createPaletteEntry(QMenu *menu);
     void createThemeMenu();
     void createToolBar();
     void filterPages(const QString &text);

@@ -13,6 +13,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
 #include "pages/MessageBoxesPage.h"
+#include "pages/MouseGesturesPage.h"
 #include "pages/NotificationsPage.h"
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
@@ -121,6 +122,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("actions"), text("Actions"),
          text("States shared by menu, buttons and tool bar, hot keys off, changes from a thread"),
          QStringLiteral("check"), &make<ActionsPage>},
+        {QStringLiteral("gestures"), text("Mouse gestures"),
+         text("A viewport that names the action of each mouse event, and the camera's presets"),
+         QStringLiteral("move_up"), &make<MouseGesturesPage>},
     };
     return pages;
 }

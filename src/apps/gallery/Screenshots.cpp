@@ -55,6 +55,8 @@ QImage grabPage(GalleryWindow *window, int index)
 int writeScreenshots(GalleryApplication *application, GalleryWindow *window, const QString &folder,
                      const QStringList &themes)
 {
+    // Pages may show what others bring along, such as their shortcuts.
+    window->createAllPages();
     if (!QDir().mkpath(folder)) {
         qCritical() << "Can't make the folder" << folder;
         return 1;

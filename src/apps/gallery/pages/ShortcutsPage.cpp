@@ -12,13 +12,21 @@ ShortcutsPage::ShortcutsPage(QWidget *parent)
         tr("All keys and mouse gestures that the gallery and the library know. Return on a row "
            "records a new one, Delete clears it; \"Interface\" holds the keys of this window. "
            "Changes are in force once they are applied, and are kept for the next start."));
-    auto *editor = new ZelShortcutEditorWidget(this);
-    section->addWidget(editor, 1);
+    editor_ = new ZelShortcutEditorWidget(this);
+    section->addWidget(editor_, 1);
     const auto say = [this](const QString &text) {
         return [this, text] {
             log(text);
         };
     };
-    connect(editor, &ZelShortcutEditorWidget::applied, this, say(tr("Shortcuts: applied")));
-    connect(editor, &ZelShortcutEditorWidget::cancelled, this, say(tr("Shortcuts: cancelled")));
+    connect(editor_, &ZelShortcutEditorWidget::applied, this, say(tr("Shortcuts: applied")));
+    connect(editor_, &ZelShortcutEditorWidget::cancelled, this, say(tr("Shortcuts: cancelled")));
+}
+
+void ShortcutsPage::showEvent(QShowEvent *event)
+{
+    GalleryPage::showEvent(event);
+    // Other pages may have brought shortcuts along meanwhile.
+    if (!editor_->hasChanges())
+        editor_->reload();
 }

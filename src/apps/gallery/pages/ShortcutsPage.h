@@ -2,6 +2,8 @@
 
 #include "GalleryPage.h"
 
+class ZelShortcutEditorWidget;
+
 /// The editor on the shortcuts of the gallery and of the library.
 class ShortcutsPage : public GalleryPage
 {
@@ -9,4 +11,10 @@ class ShortcutsPage : public GalleryPage
 
 public:
     explicit ShortcutsPage(QWidget *parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    ZelShortcutEditorWidget *editor_;
 };

@@ -125,6 +125,18 @@ void Settings::applyGestures()
 {
     if (const Preset *preset = presetOf(viewMode_))
         applyPreset(*preset);
+    else if (viewMode_ == ViewMode::Mode0)
+        applyEntries();
+}
+
+void Settings::applyEntries()
+{
+    const ShortcutEntries &entries = ZelShortcutHandler::instance()->d_->entries;
+    for (ZelMouseAction *action : gestureActions()) {
+        const auto entry = entries.constFind(action->id());
+        if (entry != entries.constEnd() && entry->currentKey != action->internalShortcutTxt())
+            action->setShortcutFromText(entry->currentKey);
+    }
 }
 
 bool Settings::decidesOn(const QString &id) const

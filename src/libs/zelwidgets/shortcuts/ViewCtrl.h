@@ -49,11 +49,12 @@ public:
     /// Whether the mode in force, and not the registry, decides on the gesture of the id.
     bool decidesOn(const QString &id) const;
 
-    /// Sets the gestures of the mode in force once more, Mode0's excepted.
+    /// Sets the gestures of the mode in force once more.
     void applyGestures();
 
 private:
     Settings() = default;
+    void applyEntries();
 
     ViewMode viewMode_ = ViewMode::Mode0;
     DollyMouseMode dollyZoomInMode_ = DollyMouseMode::Mode0;

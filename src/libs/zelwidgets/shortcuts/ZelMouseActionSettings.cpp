@@ -22,6 +22,8 @@ struct Row
     Qt::KeyboardModifiers modifiers;
     Qt::MouseButton button = Qt::NoButton;
     Qt::Key heldKey = Qt::Key_unknown;
+
+    Shortcut shortcut() const { return {event, QKeyCombination(modifiers, heldKey), button}; }
 };
 
 constexpr auto oneShot = ZelMouseAction::OneShot;
@@ -29,39 +31,54 @@ constexpr auto oneWay = ZelMouseAction::OneWay;
 constexpr auto dragOnly = ZelMouseAction::DragOnly;
 
 const Row rows[] = {
-    {"cam#ctrl.aTumble", QT_TR_NOOP("Tumble"), dragOnly, Shortcut::Drag, none, Qt::LeftButton},
-    {"cam#ctrl.aTumbleAlt", QT_TR_NOOP("Tumble (Alternative)"), dragOnly, Shortcut::Drag, alt,
-     Qt::LeftButton},
-    {"cam#ctrl.bPan", QT_TR_NOOP("Pan"), dragOnly, Shortcut::Drag, none, Qt::MiddleButton},
-    {"cam#ctrl.bPan2", QT_TR_NOOP("Pan (Alternative)"), dragOnly, Shortcut::Drag, ctrl | shift,
-     Qt::LeftButton},
-    {"cam#ctrl.cvDolly", QT_TR_NOOP("Dolly"), oneWay, Shortcut::Wheel, none},
-    {"cam#ctrl.cxDolly2", QT_TR_NOOP("Dolly (Alternative)"), oneWay, Shortcut::Drag, alt,
-     Qt::RightButton},
-    {"cam#ctrl.czFocalLength", QT_TR_NOOP("Focal Length"), oneWay, Shortcut::Wheel, alt},
-    {"cam#ctrl.dPerspective", QT_TR_NOOP("Perspective"), dragOnly, Shortcut::Drag, alt | shift,
-     Qt::RightButton},
-    {"cam#ctrl.ePickPivot", QT_TR_NOOP("Select Target"), oneShot, Shortcut::RightClick, ctrl | alt},
-    {"cam#ctrl.eCenterAndFit", QT_TR_NOOP("Center And Fit"), oneShot, Shortcut::RightClick,
-     ctrl | alt | shift},
-    {"cam#ctrl.gTwist", QT_TR_NOOP("Twist"), oneWay, Shortcut::Wheel, ctrl | alt},
-    {"mat.aEditMaterial", QT_TR_NOOP("Edit Material"), oneShot, Shortcut::DoubleClick, none},
-    {"mat.bSelect", QT_TR_NOOP("Select Material"), oneShot, Shortcut::LeftClick, shift},
-    {"mat.cApplySelected", QT_TR_NOOP("Apply Selected"), oneShot, Shortcut::RightClick, shift},
-    {"mat.dApplyCopy", QT_TR_NOOP("Apply Copy"), oneShot, Shortcut::RightClick, ctrl | shift},
-    {"env.xRotate", QT_TR_NOOP("Rotate Environment"), dragOnly, Shortcut::Drag, ctrl,
-     Qt::LeftButton},
-    {"if#mouse.xShowOnly", QT_TR_NOOP("Show Only"), oneShot, Shortcut::LeftClick, alt},
-    {"if#mouse.zHidePart", QT_TR_NOOP("Hide Part"), oneShot, Shortcut::LeftClick, ctrl | alt},
-    {"if#mouse.aSelect", QT_TR_NOOP("Select Object"), oneShot, Shortcut::LeftClick, none},
-    {"if#mouse.aSelectGroup", QT_TR_NOOP("Select Group"), oneShot, Shortcut::LeftClick, none,
-     Qt::NoButton, Qt::Key_1},
-    {"if#mouse.aSelectModel", QT_TR_NOOP("Select Model"), oneShot, Shortcut::LeftClick, none,
-     Qt::NoButton, Qt::Key_2},
-    {"if#mouse.bSelectAdd", QT_TR_NOOP("Add Select Object"), oneShot, Shortcut::LeftClick, ctrl},
-    {"if#mouse.context", QT_TR_NOOP("Context Menu"), oneShot, Shortcut::RightClick, none},
-    {"if#mouse.marquesel", QT_TR_NOOP("Marquee Selection"), dragOnly, Shortcut::Drag, shift,
-     Qt::LeftButton},
+    {"cam#ctrl.aTumble", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Tumble"), dragOnly,
+     Shortcut::Drag, none, Qt::LeftButton},
+    {"cam#ctrl.aTumbleAlt", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Tumble (Alternative)"),
+     dragOnly, Shortcut::Drag, alt, Qt::LeftButton},
+    {"cam#ctrl.bPan", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Pan"), dragOnly, Shortcut::Drag,
+     none, Qt::MiddleButton},
+    {"cam#ctrl.bPan2", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Pan (Alternative)"), dragOnly,
+     Shortcut::Drag, ctrl | shift, Qt::LeftButton},
+    {"cam#ctrl.cvDolly", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Dolly"), oneWay,
+     Shortcut::Wheel, none},
+    {"cam#ctrl.cxDolly2", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Dolly (Alternative)"),
+     oneWay, Shortcut::Drag, alt, Qt::RightButton},
+    {"cam#ctrl.czFocalLength", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Focal Length"), oneWay,
+     Shortcut::Wheel, alt},
+    {"cam#ctrl.dPerspective", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Perspective"), dragOnly,
+     Shortcut::Drag, alt | shift, Qt::RightButton},
+    {"cam#ctrl.ePickPivot", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Select Target"), oneShot,
+     Shortcut::RightClick, ctrl | alt},
+    {"cam#ctrl.eCenterAndFit", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Center And Fit"),
+     oneShot, Shortcut::RightClick, ctrl | alt | shift},
+    {"cam#ctrl.gTwist", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Twist"), oneWay,
+     Shortcut::Wheel, ctrl | alt},
+    {"mat.aEditMaterial", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Edit Material"), oneShot,
+     Shortcut::DoubleClick, none},
+    {"mat.bSelect", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Select Material"), oneShot,
+     Shortcut::LeftClick, shift},
+    {"mat.cApplySelected", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Apply Selected"), oneShot,
+     Shortcut::RightClick, shift},
+    {"mat.dApplyCopy", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Apply Copy"), oneShot,
+     Shortcut::RightClick, ctrl | shift},
+    {"env.xRotate", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Rotate Environment"), dragOnly,
+     Shortcut::Drag, ctrl, Qt::LeftButton},
+    {"if#mouse.xShowOnly", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Show Only"), oneShot,
+     Shortcut::LeftClick, alt},
+    {"if#mouse.zHidePart", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Hide Part"), oneShot,
+     Shortcut::LeftClick, ctrl | alt},
+    {"if#mouse.aSelect", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Select Object"), oneShot,
+     Shortcut::LeftClick, none},
+    {"if#mouse.aSelectGroup", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Select Group"), oneShot,
+     Shortcut::LeftClick, none, Qt::NoButton, Qt::Key_1},
+    {"if#mouse.aSelectModel", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Select Model"), oneShot,
+     Shortcut::LeftClick, none, Qt::NoButton, Qt::Key_2},
+    {"if#mouse.bSelectAdd", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Add Select Object"),
+     oneShot, Shortcut::LeftClick, ctrl},
+    {"if#mouse.context", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Context Menu"), oneShot,
+     Shortcut::RightClick, none},
+    {"if#mouse.marquesel", QT_TRANSLATE_NOOP("ZelMouseActionSettings", "Marquee Selection"),
+     dragOnly, Shortcut::Drag, shift, Qt::LeftButton},
 };
 
 constexpr QLatin1String tumbleId("cam#ctrl.aTumble");
@@ -115,9 +132,7 @@ ZelMouseActionSettings::ZelMouseActionSettings()
     : d_(std::make_unique<ZelMouseActionSettingsPrivate>())
 {
     for (const Row &row : rows) {
-        const ZelMouseShortcut shortcut(row.event, QKeyCombination(row.modifiers, row.heldKey),
-                                        row.button);
-        new ZelMouseAction(QLatin1String(row.id), tr(row.text), row.category, shortcut,
+        new ZelMouseAction(QLatin1String(row.id), tr(row.text), row.category, row.shortcut(),
                            &d_->parent);
     }
     findById(alternativeTumbleId)->setEnabled(false);
@@ -145,6 +160,13 @@ ZelMouseActionSettings *ZelMouseActionSettings::existing()
 void ZelMouseActionSettings::registerAgain()
 {
     const auto actions = d_->parent.findChildren<ZelMouseAction *>();
+    // What a former registry decided on is no default.
+    for (const Row &row : rows) {
+        for (ZelMouseAction *action : actions) {
+            if (action->id() == QLatin1String(row.id))
+                action->setShortcut(row.shortcut());
+        }
+    }
     for (ZelMouseAction *action : actions)
         ZelShortcutHandler::instance()->registerOrChangeMouseAction(*action);
 }

@@ -20,9 +20,10 @@ struct Modifier
     Qt::KeyboardModifier modifier;
     const char *word;
 };
-constexpr std::array modifiers{Modifier{"ALT", Qt::AltModifier, QT_TR_NOOP("Alt")},
-                               Modifier{"CTRL", Qt::ControlModifier, QT_TR_NOOP("Ctrl")},
-                               Modifier{"SHIFT", Qt::ShiftModifier, QT_TR_NOOP("Shift")}};
+constexpr std::array modifiers{
+    Modifier{"ALT", Qt::AltModifier, QT_TRANSLATE_NOOP("ZelMouseShortcut", "Alt")},
+    Modifier{"CTRL", Qt::ControlModifier, QT_TRANSLATE_NOOP("ZelMouseShortcut", "Ctrl")},
+    Modifier{"SHIFT", Qt::ShiftModifier, QT_TRANSLATE_NOOP("ZelMouseShortcut", "Shift")}};
 
 struct Button
 {
@@ -30,9 +31,10 @@ struct Button
     Qt::MouseButton button;
     const char *word;
 };
-constexpr std::array buttons{Button{"LMB", Qt::LeftButton, QT_TR_NOOP("LMB")},
-                             Button{"RMB", Qt::RightButton, QT_TR_NOOP("RMB")},
-                             Button{"CMB", Qt::MiddleButton, QT_TR_NOOP("MMB")}};
+constexpr std::array buttons{
+    Button{"LMB", Qt::LeftButton, QT_TRANSLATE_NOOP("ZelMouseShortcut", "LMB")},
+    Button{"RMB", Qt::RightButton, QT_TRANSLATE_NOOP("ZelMouseShortcut", "RMB")},
+    Button{"CMB", Qt::MiddleButton, QT_TRANSLATE_NOOP("ZelMouseShortcut", "MMB")}};
 
 bool holdsOnlyKnownModifiers(const QKeyCombination &key)
 {

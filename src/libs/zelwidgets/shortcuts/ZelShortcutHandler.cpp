@@ -33,15 +33,15 @@ QKeySequence fromPortable(const QString &text)
     return QKeySequence::fromString(text, QKeySequence::PortableText);
 }
 
-/// The id of a live object; empty for a ZelAction that has lost its action.
-QString idOf(QObject *object)
+/// Whether the live object has the id; a ZelAction that has lost its action has none.
+bool hasId(const QObject *object, const QString &id)
 {
-    if (const auto *action = qobject_cast<ZelAction *>(object))
-        return action->qAction() ? action->id() : QString();
-    if (const auto *shortcut = qobject_cast<ZelShortcut *>(object))
-        return shortcut->id();
-    const auto *mouse = qobject_cast<ZelMouseAction *>(object);
-    return mouse ? mouse->id() : QString();
+    if (const auto *action = qobject_cast<const ZelAction *>(object))
+        return action->qAction() && action->id() == id;
+    if (const auto *shortcut = qobject_cast<const ZelShortcut *>(object))
+        return shortcut->id() == id;
+    const auto *mouse = qobject_cast<const ZelMouseAction *>(object);
+    return mouse && mouse->id() == id;
 }
 
 } // namespace
@@ -159,7 +159,7 @@ void ZelShortcutHandler::registerOrChangeMouseAction(ZelMouseAction &action)
 QObject *ZelShortcutHandler::findShortcut(QString id) const
 {
     for (const QPointer<QObject> &object : std::as_const(d_->liveObjects)) {
-        if (object && idOf(object) == id)
+        if (hasId(object, id))
             return object;
     }
     return nullptr;

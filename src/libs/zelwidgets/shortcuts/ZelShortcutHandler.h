@@ -108,9 +108,10 @@ public:
     /// nothing of the tree is stored.
     QString exportShortcuts(QTreeWidget *editor);
     /// True if the document looks like one of exportShortcuts(): at least two entries were taken
-    /// over, and more than failed. With an editor its tree shows the result and nothing is changed
-    /// until it is applied; without one the keys are in force at once. A document without entries
-    /// changes nothing.
+    /// over, and more than failed. With an editor its tree shows the result and no entry, key or
+    /// live object is changed until it is applied; without one the keys are in force at once. The
+    /// document's view mode is in force at once in both cases. A document without entries changes
+    /// nothing.
     bool importShortcuts(const QString &json, QTreeWidget *editor);
 
     void resetAllOnlyCallThisFromAutoTests();
@@ -122,6 +123,7 @@ private:
     friend class ViewCtrl::Settings;
     friend class ZelShortcutHandlerPrivate;
     friend class ZelShortcutScopes;
+    friend class ZelCommand;
     friend struct std::default_delete<ZelShortcutHandler>;
 
     ZelShortcutHandler();

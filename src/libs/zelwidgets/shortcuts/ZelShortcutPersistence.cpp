@@ -239,6 +239,8 @@ bool ZelShortcutHandler::importShortcuts(const QString &json, QTreeWidget *edito
         ZelShortcutGuiHelper::buildTree(editor);
         ZelShortcutGuiHelper::dropWhenApplied(editor, materials);
         d_->entries = before;
+        // The mode may have read the gestures of the document.
+        ViewCtrl::Settings::instance()->applyGestures();
     } else {
         applyCurrentSettingsToShortcuts();
     }

@@ -9,15 +9,6 @@
 
 namespace {
 
-QString withoutMnemonics(QString text)
-{
-    const QLatin1String placeholder("!#AND_REPLACEMENT#!");
-    return text.remove(QLatin1String("..."))
-        .replace(QLatin1String("&&"), placeholder)
-        .remove(u'&')
-        .replace(placeholder, QLatin1String("&"));
-}
-
 /// The platform's name of the control key.
 QString nativeControl()
 {
@@ -96,7 +87,7 @@ void ZelShortcutTreeItem::setInternalText(int column, const QString &text)
 
 void ZelShortcutTreeItem::setItemText(int column, const QString &text)
 {
-    QTreeWidgetItem::setText(column, withoutMnemonics(text));
+    QTreeWidgetItem::setText(column, displayText(text));
 }
 
 bool ZelShortcutTreeItem::isShortcutItem() const
@@ -116,6 +107,15 @@ bool ZelShortcutTreeItem::isMouseShortcut(int *category) const
     if (category)
         *category = value;
     return true;
+}
+
+QString ZelShortcutTreeItem::displayText(QString text)
+{
+    const QLatin1String placeholder("!#AND_REPLACEMENT#!");
+    return text.remove(QLatin1String("..."))
+        .replace(QLatin1String("&&"), placeholder)
+        .remove(u'&')
+        .replace(placeholder, QLatin1String("&"));
 }
 
 QString ZelShortcutTreeItem::publicText(const QString &internal)

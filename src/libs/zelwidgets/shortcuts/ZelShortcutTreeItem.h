@@ -32,7 +32,7 @@ public:
     /// Internal texts: portable keys or exported gestures.
     void setShortcut(const QString &text);
     void setDefaultShortCut(const QString &text);
-    /// Without mnemonics and trailing dots, so that texts of menus will do.
+    /// The text is shown as displayText() gives it.
     void setItemText(int column, const QString &text);
 
     /// Whether the row is a shortcut, not a category.
@@ -40,6 +40,8 @@ public:
     /// Whether the row is a mouse gesture; its ZelMouseAction::Category, if asked for.
     bool isMouseShortcut(int *category = nullptr) const;
 
+    /// A name without mnemonics and trailing dots, so that texts of menus will do.
+    static QString displayText(QString text);
     /// What users see of an internal text.
     static QString publicText(const QString &internal);
     /// Keys with their modifiers spelled out, in the order Meta, Alt, Shift, Ctrl.
