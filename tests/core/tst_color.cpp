@@ -296,13 +296,8 @@ void ColorTest::spacesLeadBackToRgb()
 {
     QFETCH(std::function<Triple(const Triple &)>, way);
     QFETCH(float, limit);
-    float largest = 0.0f;
-    for (const Triple &rgb : grid(51)) {
-        const Triple back = way(rgb);
-        largest = std::max(largest, distance(back, rgb));
-        VERIFY_NEAR(back, rgb, limit);
-    }
-    qInfo() << "largest difference" << largest;
+    for (const Triple &rgb : grid(51))
+        VERIFY_NEAR(way(rgb), rgb, limit);
 }
 
 void ColorTest::huesAreFolded()
@@ -398,14 +393,11 @@ void ColorTest::illuminantsHaveTheirPublishedTemperatures()
 
 void ColorTest::temperaturesComeBack()
 {
-    double largest = 0.0;
     for (int kelvin = 1700; kelvin <= 30000; kelvin += 10) {
         const double back = double(temperature(blackBodyToXyz(float(kelvin))));
         const double error = std::abs(back - kelvin) / kelvin;
         QVERIFY2(error <= 0.008, qPrintable(QStringLiteral("%1 became %2").arg(kelvin).arg(back)));
-        largest = std::max(largest, error);
     }
-    qInfo() << "largest relative error" << largest;
 }
 
 void ColorTest::extremesOfTemperature()
