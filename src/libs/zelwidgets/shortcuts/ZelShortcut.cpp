@@ -66,6 +66,11 @@ void ZelShortcut::enroll()
     ZelShortcutHandler::instance()->registerOrChangeShortcut(*this);
 }
 
+QAction *ZelShortcut::ownAction() const
+{
+    return ownAction_;
+}
+
 void ZelShortcut::setText(QString text)
 {
     text_ = std::move(text);

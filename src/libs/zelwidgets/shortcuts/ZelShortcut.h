@@ -36,7 +36,7 @@ public:
     /// Not owned.
     void setScope(QWidget *scope);
     /// The action that it was made for together with a ZelAction; null otherwise.
-    QAction *ownAction() const { return ownAction_; }
+    QAction *ownAction() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
