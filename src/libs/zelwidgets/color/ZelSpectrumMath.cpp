@@ -30,20 +30,27 @@ public:
         for (int byte = 0; byte <= 255; ++byte)
             rises_[std::size_t(byte)] = firstOf(byte, exponent);
         rises_[256] = std::numeric_limits<float>::infinity();
-        for (int i = 0; i <= buckets; ++i)
-            starts_[std::size_t(i)] = uchar(truncatedPower(float(i) / float(buckets), exponent));
+        std::size_t byte = 0;
+        for (std::size_t i = 0; i < starts_.size(); ++i) {
+            byte = raised(byte, float(i) / float(buckets));
+            starts_[i] = uchar(byte);
+        }
     }
 
     uchar operator()(float channel) const
     {
-        std::size_t byte = starts_[std::size_t(channel * float(buckets))];
-        while (channel >= rises_[byte + 1])
-            ++byte;
-        return uchar(byte);
+        return uchar(raised(starts_[std::size_t(channel * float(buckets))], channel));
     }
 
 private:
-    static constexpr int buckets = 1024;
+    static constexpr int buckets = 8192;
+
+    std::size_t raised(std::size_t byte, float channel) const
+    {
+        while (channel >= rises_[byte + 1])
+            ++byte;
+        return byte;
+    }
 
     /// The smallest number that gives the byte or a larger one. Floats from 0 up are in the order
     /// of their bits.
