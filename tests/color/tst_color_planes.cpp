@@ -6,8 +6,11 @@
 
 #include <ZelCore/ZelColorMath>
 #include <ZelCore/ZelGammaPolicy>
+#include <ZelWidgets/ZelColorConversion>
 #include <ZelWidgets/ZelColorTriangle>
+#include <ZelWidgets/ZelHueSlider>
 #include <ZelWidgets/ZelRGBSpectrum>
+#include <ZelWidgets/ZelRGBSpectrumDisplay>
 
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -27,7 +30,7 @@ ZelColor hsv(float hue, float saturation, float value)
 
 QColor lastColor(const QSignalSpy &spy)
 {
-    return ZelSpectrumMath::screenColor(spy.last().first().value<ZelColor>());
+    return toQColor(spy.last().first().value<ZelColor>());
 }
 
 bool isNear(QPointF one, QPointF other, double distance = 1e-6)
@@ -65,6 +68,8 @@ private Q_SLOTS:
     void fillStaysInsideAndIsEven();
     void spectrumIsPicked();
     void planeFollowsTheHueAfterACalm();
+    void displayShowsItsColorOnceItIsSeen();
+    void displayKeepsTheHueOfGreys();
     void trianglePicksByMouse();
     void triangleGoesByKeys_data();
     void triangleGoesByKeys();
@@ -292,6 +297,44 @@ void ColorPlanesTest::planeFollowsTheHueAfterACalm()
     QTRY_VERIFY(pixelAt(spectrum, dark).blue() > plain + 40);
 }
 
+void ColorPlanesTest::displayShowsItsColorOnceItIsSeen()
+{
+    ZelRGBSpectrumDisplay display(hsv(120, 0.5F, 0.5F));
+    auto *slider = display.findChild<ZelHueSlider *>();
+    QSignalSpy spy(&display, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged));
+    display.setColor(hsv(200.6F, 0.25F, 0.75F));
+    QCOMPARE(slider->value(), 0);
+    display.show();
+    QCOMPARE(slider->value(), 201);
+    display.setColor(hsv(30, 1, 1));
+    QCOMPARE(slider->value(), 30);
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(!display.signalsBlocked());
+
+    slider->setValue(50);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.last().first().value<ZelColor>(), hsv(50, 1, 1));
+    QVERIFY(display.findChild<ZelRGBSpectrum *>()->findChild<QTimer *>()->isActive());
+}
+
+void ColorPlanesTest::displayKeepsTheHueOfGreys()
+{
+    ZelRGBSpectrumDisplay display(hsv(77, 0.5F, 0.5F));
+    display.resize(240, 240);
+    display.show();
+    auto *spectrum = display.findChild<ZelRGBSpectrum *>();
+    QSignalSpy spy(&display, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged));
+    UserInput::drag(spectrum, spectrum->rect().center(), spectrum->rect().bottomLeft());
+    QCOMPARE(spy.last().first().value<ZelColor>(), hsv(77, 0, 0));
+    QCOMPARE(display.findChild<ZelHueSlider *>()->value(), 77);
+    UserInput::press(spectrum, spectrum->rect().topRight());
+    QCOMPARE(spy.last().first().value<ZelColor>(), hsv(77, 1, 1));
+    const int count = int(spy.count());
+    QTest::keyClick(spectrum, Qt::Key_Down);
+    QCOMPARE(spy.count(), count + 1);
+    QCOMPARE(spy.last().first().value<ZelColor>(), hsv(77, 1, 0.99F));
+}
+
 void ColorPlanesTest::trianglePicksByMouse()
 {
     ZelColorTriangle triangle(hsv(0, 1, 1));
@@ -349,7 +392,7 @@ void ColorPlanesTest::triangleGoesByKeys()
     QFETCH(Qt::Key, key);
     QFETCH(bool, shift);
     QFETCH(QColor, to);
-    ZelColorTriangle triangle(ZelSpectrumMath::plainColor(from));
+    ZelColorTriangle triangle(fromQColor(from));
     QSignalSpy spy(&triangle, &ZelSpectrumDisplay::colorChanged);
     QTest::keyClick(&triangle, key, shift ? Qt::ShiftModifier : Qt::NoModifier);
     QCOMPARE(spy.count(), 1);

@@ -2,7 +2,7 @@
 
 #include "ZelAccessibleValue.h"
 #include "ZelFocusFrame.h"
-#include "color/ZelSpectrumMath.h"
+#include "color/ZelColorConversion.h"
 #include "color/ZelTriangleGeometry.h"
 #include "color/ZelTrianglePainting.h"
 
@@ -64,7 +64,7 @@ ZelColorTriangle::ZelColorTriangle(ZelColor const &color, QWidget *parent)
     : ZelSpectrumDisplay(parent)
     , geometry_(std::make_unique<ZelTriangleGeometry>())
     , background_(usualSize, QImage::Format_RGB32)
-    , currentColor_(ZelSpectrumMath::screenColor(color))
+    , currentColor_(toQColor(color))
     , currentHue_(std::max(0, currentColor_.hsvHue()))
 {
     ZelAccessibleValue::serve<AccessibleTriangle, ZelColorTriangle>();
@@ -81,7 +81,7 @@ ZelColorTriangle::~ZelColorTriangle() = default;
 
 void ZelColorTriangle::setColor(ZelColor color)
 {
-    const QColor shown = ZelSpectrumMath::screenColor(color);
+    const QColor shown = toQColor(color);
     if (looksLike(shown, currentColor_))
         return;
     currentColor_ = shown;
@@ -190,7 +190,7 @@ void ZelColorTriangle::take(const QColor &color)
     if (!isOther)
         return;
     ZelAccessibleValue::announce(this, currentHue_);
-    Q_EMIT colorChanged(ZelSpectrumMath::plainColor(currentColor_));
+    Q_EMIT colorChanged(fromQColor(currentColor_));
 }
 
 void ZelColorTriangle::resizeEvent(QResizeEvent *event)
@@ -205,7 +205,7 @@ void ZelColorTriangle::resizeEvent(QResizeEvent *event)
 void ZelColorTriangle::showEvent(QShowEvent *event)
 {
     ZelSpectrumDisplay::showEvent(event);
-    setColor(ZelSpectrumMath::plainColor(currentColor_));
+    setColor(fromQColor(currentColor_));
 }
 
 /// Beside a new size, a new look and a screen of another pixel ratio ask for another ring.

@@ -2,6 +2,7 @@
 
 #include "ZelAccessibleValue.h"
 #include "ZelFocusFrame.h"
+#include "color/ZelColorConversion.h"
 #include "color/ZelSpectrumMath.h"
 
 #include <ZelCore/ZelGammaPolicy>
@@ -191,8 +192,8 @@ void ZelRGBSpectrum::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled() ? 1.0 : disabledOpacity);
     painter.drawPixmap(0, 0, scaledPlane());
-    painter.setPen(QPen(ZelSpectrumMath::markerColor(ZelSpectrumMath::screenColor(color_)),
-                        markerWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.setPen(QPen(ZelSpectrumMath::markerColor(toQColor(color_)), markerWidth, Qt::SolidLine,
+                        Qt::SquareCap, Qt::BevelJoin));
     painter.drawEllipse(ZelSpectrumMath::pointOf({hsv[1], hsv[2]}, size()), markerRadius,
                         markerRadius);
     painter.end();

@@ -1,6 +1,5 @@
 #include "ZelSpectrumMath.h"
 
-#include <ZelCore/ZelColor>
 #include <ZelCore/ZelColorMath>
 
 #include <algorithm>
@@ -137,15 +136,4 @@ QColor ZelSpectrumMath::markerColor(const QColor &ground)
 {
     const int brightness = ground.red() * 30 + ground.green() * 59 + ground.blue() * 11;
     return brightness <= darkest ? Qt::white : Qt::black;
-}
-
-QColor ZelSpectrumMath::screenColor(const ZelColor &color)
-{
-    const auto [red, green, blue] = color.toRGB();
-    return QColor::fromRgbF(clamped(red), clamped(green), clamped(blue));
-}
-
-ZelColor ZelSpectrumMath::plainColor(const QColor &color)
-{
-    return {ZelColor::Space::RGB, color.redF(), color.greenF(), color.blueF()};
 }

@@ -5,8 +5,6 @@
 #include <QPointF>
 #include <QSize>
 
-class ZelColor;
-
 /// The plane of saturation and value of one hue: its picture, and which point stands for what.
 /// Saturation grows to the right, value upwards; both go from 0 to 1.
 namespace ZelSpectrumMath {
@@ -30,9 +28,5 @@ QPoint pointOf(SaturationValue part, QSize field);
 
 /// White on dark colours, black on the others.
 QColor markerColor(const QColor &ground);
-
-/// The colour for the screen, clamped, without gamma; and back, without a name.
-QColor screenColor(const ZelColor &color);
-ZelColor plainColor(const QColor &color);
 
 } // namespace ZelSpectrumMath
