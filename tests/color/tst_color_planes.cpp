@@ -306,6 +306,10 @@ void ColorPlanesTest::displayShowsItsColorOnceItIsSeen()
     QCOMPARE(slider->value(), 0);
     display.show();
     QCOMPARE(slider->value(), 201);
+    auto *spectrum = display.findChild<ZelRGBSpectrum *>();
+    // The plane is right at once: nothing of another hue is seen.
+    const int hue = toDisplayQColor(hsv(201, 1, 1)).hsvHue();
+    QVERIFY(std::abs(pixelAt(*spectrum, spectrum->rect().topRight()).hsvHue() - hue) <= 3);
     display.setColor(hsv(30, 1, 1));
     QCOMPARE(slider->value(), 30);
     QCOMPARE(spy.count(), 0);
@@ -314,7 +318,7 @@ void ColorPlanesTest::displayShowsItsColorOnceItIsSeen()
     slider->setValue(50);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.last().first().value<ZelColor>(), hsv(50, 1, 1));
-    QVERIFY(display.findChild<ZelRGBSpectrum *>()->findChild<QTimer *>()->isActive());
+    QVERIFY(spectrum->findChild<QTimer *>()->isActive());
 }
 
 void ColorPlanesTest::displayKeepsTheHueOfGreys()

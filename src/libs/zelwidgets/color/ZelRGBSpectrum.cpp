@@ -107,7 +107,6 @@ void ZelRGBSpectrum::schedulePlane()
 void ZelRGBSpectrum::updateTimerEvent()
 {
     buildPlane();
-    planeTimer_->stop();
     update();
 }
 
@@ -117,6 +116,7 @@ void ZelRGBSpectrum::buildPlane()
     const float exponent = gamma->isGammaCorrectionEnabled() ? gamma->getInvGamma() : 1.0F;
     plane_ = QPixmap::fromImage(ZelSpectrumMath::plane(hue_, exponent));
     scaledPlane_ = QPixmap();
+    planeTimer_->stop();
 }
 
 void ZelRGBSpectrum::mousePressEvent(QMouseEvent *event)
@@ -185,8 +185,17 @@ const QPixmap &ZelRGBSpectrum::scaledPlane()
     return scaledPlane_;
 }
 
+void ZelRGBSpectrum::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    seen_ = false;
+}
+
 void ZelRGBSpectrum::paintEvent(QPaintEvent *)
 {
+    if (!seen_ && planeTimer_->isActive())
+        buildPlane();
+    seen_ = true;
     const auto hsv = color_.toHSV();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

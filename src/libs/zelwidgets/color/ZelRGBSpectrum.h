@@ -25,7 +25,8 @@ public:
 public Q_SLOTS:
     /// Emits nothing.
     void setColor(ZelColor color);
-    /// In degrees. The plane follows once no other hue has come for 50 ms.
+    /// In degrees. The plane follows once no other hue has come for 50 ms; where it is about to be
+    /// seen for the first time, at once.
     void setHue(float hue);
 
 Q_SIGNALS:
@@ -42,6 +43,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     friend class AccessibleSpectrum;
@@ -57,4 +59,5 @@ private:
     QPixmap plane_;
     QPixmap scaledPlane_;
     QTimer *planeTimer_;
+    bool seen_ = false;
 };
