@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/ColorPlanesPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
 #include "pages/DialsPage.h"
@@ -106,6 +107,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dialogs"), text("Credentials and confirmations"),
          text("Network credentials, a new password, deleting items, the frameless dialog"),
          QStringLiteral("lock"), &make<DialogsPage>},
+        {QStringLiteral("colorplanes"), text("Spectrum displays"),
+         text("A plane of saturation and value with its hues, a triangle in a ring of hues"),
+         QStringLiteral("multi_color"), &make<ColorPlanesPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
