@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ButtonsPage.h"
+#include "pages/ColorInputsPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
 #include "pages/DialsPage.h"
@@ -106,6 +107,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dialogs"), text("Credentials and confirmations"),
          text("Network credentials, a new password, deleting items, the frameless dialog"),
          QStringLiteral("lock"), &make<DialogsPage>},
+        {QStringLiteral("colorinputs"), text("Colour inputs and sliders"),
+         text("One colour in every space, channel by channel, with and without display gamma"),
+         QStringLiteral("palette"), &make<ColorInputsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
