@@ -281,6 +281,14 @@ void TestColorInputs::stripsTakeTheDisplaysGamma()
         const int red = int(255 * std::pow(i / 255.0, 1 / 2.2));
         QVERIFY(areNear(strip.pixel(i, 0), qRgb(red, 168, 122), 1));
     }
+    // Extreme displays as well get what the power gives.
+    for (const float exponent : {1e-38f, 0.1f, 0.4545f, 1.8f, 30.0f, 1e30f}) {
+        const QImage greys = ZelColorStrip::image(Mode::Brightness, orange(), exponent, kelvins);
+        for (int i = 0; i < greys.width(); ++i) {
+            const float grey = std::min(float(i) * 0.003921569f, 1.0f);
+            QCOMPARE(qRed(greys.pixel(i, 0)), int(std::pow(grey, exponent) * 255.0f));
+        }
+    }
     const QImage hues = ZelColorStrip::hues(1.0f);
     QCOMPARE(hues.size(), QSize(2, 360));
     for (const int y : {0, 100, 359}) {

@@ -4,7 +4,9 @@
 #include <ZelCore/ZelGammaPolicy>
 
 #include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 using ZelColorChannel::Mode;
@@ -22,13 +24,70 @@ constexpr float opponentStart = -128.0f;
 constexpr float byteStep = 0.003921569f;
 constexpr float percentStep = 0.01f;
 
+/// The byte of each channel from 0 to 1 raised to an exponent: exactly what std::pow() and
+/// truncation give, from a table of the least channel of each byte.
+class RaisedBytes
+{
+public:
+    explicit RaisedBytes(float exponent)
+        : exponent_(exponent)
+    {
+        for (uint byte = 0; byte < least_.size(); ++byte)
+            least_[byte] = leastOf(byte);
+        for (uint i = 0; i < first_.size(); ++i)
+            first_[i] = uchar(raised(float(i) / float(parts)));
+    }
+
+    float exponent() const { return exponent_; }
+
+    uchar of(float channel) const
+    {
+        uint byte = first_[uint(channel * float(parts))];
+        while (byte < 255 && least_[byte + 1] <= channel)
+            ++byte;
+        return uchar(byte);
+    }
+
+private:
+    static constexpr uint parts = 4096;
+
+    uint raised(float channel) const { return uint(std::pow(channel, exponent_) * 255.0f); }
+
+    /// Floats from 0 to 1 are ordered as their bits are.
+    float leastOf(uint byte) const
+    {
+        uint32_t below = 0;
+        uint32_t enough = std::bit_cast<uint32_t>(1.0f);
+        while (below < enough) {
+            const uint32_t middle = (below + enough) / 2;
+            if (raised(std::bit_cast<float>(middle)) >= byte)
+                enough = middle;
+            else
+                below = middle + 1;
+        }
+        return std::bit_cast<float>(enough);
+    }
+
+    float exponent_;
+    std::array<float, 256> least_;
+    std::array<uchar, parts + 1> first_;
+};
+
+const RaisedBytes &raisedBytes(float exponent)
+{
+    thread_local RaisedBytes bytes(exponent);
+    if (bytes.exponent() != exponent)
+        bytes = RaisedBytes(exponent);
+    return bytes;
+}
+
 /// Turns colours into bytes. A channel that stays as it was in the sample before, as most do along
-/// a strip, is not raised to its power again.
+/// a strip, is not looked up again.
 class Encoder
 {
 public:
     explicit Encoder(float exponent)
-        : exponent_(exponent)
+        : raised_(exponent == 1.0f ? nullptr : &raisedBytes(exponent))
     {}
 
     void write(const Triple &rgb, uchar *pixel)
@@ -45,14 +104,12 @@ public:
 private:
     uchar byte(float channel) const
     {
-        float shown = channel > 0.0f ? std::min(channel, 1.0f) : 0.0f;
-        if (exponent_ != 1.0f)
-            shown = std::pow(shown, exponent_);
-        return uchar(shown * 255.0f);
+        const float shown = channel > 0.0f ? std::min(channel, 1.0f) : 0.0f;
+        return raised_ ? raised_->of(shown) : uchar(shown * 255.0f);
     }
 
     static constexpr float none = std::numeric_limits<float>::quiet_NaN();
-    float exponent_;
+    const RaisedBytes *raised_;
     Triple channels_ = {none, none, none};
     std::array<uchar, 3> bytes_ = {};
 };
@@ -71,11 +128,12 @@ QImage strip(int width, int samples, float exponent, Sample &&sample)
     return image;
 }
 
-QImage channelStrip(Triple rgb, size_t index, float exponent)
+QImage channelStrip(const Triple &rgb, size_t index, float exponent)
 {
     return strip(byteSamples, byteSamples, exponent, [&](int i) {
-        rgb[index] = float(i) * byteStep;
-        return rgb;
+        const float value = float(i) * byteStep;
+        return Triple{index == 0 ? value : rgb[0], index == 1 ? value : rgb[1],
+                      index == 2 ? value : rgb[2]};
     });
 }
 
@@ -95,11 +153,12 @@ QImage hsvStrip(Triple hsv, size_t index, float exponent)
     });
 }
 
-QImage inkStrip(Quad cmyk, size_t index, float exponent)
+QImage inkStrip(const Quad &cmyk, size_t index, float exponent)
 {
     return strip(percentSamples, percentSamples, exponent, [&](int i) {
-        cmyk[index] = float(i) * percentStep;
-        return ZelColorMath::cmykToRgb(cmyk);
+        const float ink = float(i) * percentStep;
+        return ZelColorMath::cmykToRgb({index == 0 ? ink : cmyk[0], index == 1 ? ink : cmyk[1],
+                                        index == 2 ? ink : cmyk[2], index == 3 ? ink : cmyk[3]});
     });
 }
 
