@@ -7,7 +7,8 @@
 
 using uchar = unsigned char;
 
-/// From channels to bytes in the way of QColor: by way of 16 bits, of which the upper 8 are taken.
+/// From channels to bytes in the way of QColor: rounded to 16 bits, and these divided by 257
+/// and rounded.
 class ZelGradientBytes
 {
 public:
@@ -20,7 +21,11 @@ public:
     }
 
     /// Of a channel from 0 to 1.
-    static int plain(float channel) { return int(channel * 65535.0f + 0.5f) >> 8; }
+    static int plain(float channel)
+    {
+        const int wide = int(channel * 65535.0f + 0.5f) + 128;
+        return (wide - (wide >> 8)) >> 8;
+    }
 
     float exponent() const { return exponent_; }
 
