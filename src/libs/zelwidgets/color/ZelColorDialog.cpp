@@ -418,6 +418,8 @@ void ZelColorDialog::setVisible(bool visible)
     } else if (!visible && isVisible() && isWindow()) {
         beforeHide();
     }
+    if (visible && isHidden())
+        updatePickButton();
     QDialog::setVisible(visible);
 }
 

@@ -119,6 +119,7 @@ private:
     QLayout *setupHexRow();
     QLayout *setupHexValueEdit();
     void setupButtons();
+    void updatePickButton();
     void setupConfigMenu();
     QLayout *setupColorSpaceInputLayout();
     void addColorSpaceInput(const QString &name, ZelColorInput *input);

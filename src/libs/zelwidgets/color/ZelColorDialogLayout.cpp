@@ -187,10 +187,8 @@ QLayout *ZelColorDialog::setupHexValueEdit()
 
 void ZelColorDialog::setupButtons()
 {
-    QString reason;
-    const bool canPick = ZelEyeDropper::isAvailable(&reason);
-    d_->pickButton = button(QStringLiteral("eyedropper"), canPick ? tr("Pick a color") : reason);
-    d_->pickButton->setEnabled(canPick);
+    d_->pickButton = button(QStringLiteral("eyedropper"), tr("Pick a color"));
+    updatePickButton();
     connect(d_->pickButton, &QAbstractButton::clicked, this, &ZelColorDialog::pickMode);
 
     d_->saveToLibraryButton = button(QStringLiteral("save"), tr("Save color to library"));
@@ -208,6 +206,14 @@ void ZelColorDialog::setupButtons()
     d_->configButton->setPopupMode(QToolButton::InstantPopup);
     d_->configButton->setPaintMenuArrow(false);
     setupConfigMenu();
+}
+
+void ZelColorDialog::updatePickButton()
+{
+    QString reason;
+    const bool canPick = ZelEyeDropper::isAvailable(&reason);
+    d_->pickButton->setEnabled(canPick);
+    d_->pickButton->setToolTip(canPick ? tr("Pick a color") : reason);
 }
 
 void ZelColorDialog::setupConfigMenu()
