@@ -18,14 +18,13 @@ public:
     explicit HexValueLineEdit(QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
     /// Pastes the clipboard; the entry of the context menu comes here as well.
     void paste();
 
 Q_SIGNALS:
-    /// Linear.
+    /// The numbers of the text: a display value.
     void colorPasted(ZelColor color);
 
 protected:

@@ -10,8 +10,8 @@
 
 #include <memory>
 
-class QHBoxLayout;
 class QLayout;
+class QScreen;
 class ZelColorDialogPrivate;
 class ZelColorInput;
 class ZelSpectrumDisplay;
@@ -26,10 +26,9 @@ class ZelSpectrumDisplay;
 ///     connect(dialog, &ZelColorDialog::colorChanged, this, &Panel::takeColor);
 ///     dialog->show();
 ///
-/// The dialog works on a copy. The handles in its signals share that copy: detach() what is to be
-/// kept while the dialog lives. Colours are linear; what is shown and typed may be gamma-corrected,
-/// which the user chooses in the menu of the dialog. Window size, spectrum and colour space are
-/// remembered in the settings.
+/// The dialog works on a copy, and the colours in its signals are copies as well. Colours are
+/// linear; what is shown and typed may be gamma-corrected, which the user chooses in the menu of
+/// the dialog. Window size, spectrum and colour space are remembered in the settings.
 class ZELWIDGETS_EXPORT ZelColorDialog : public QDialog
 {
     Q_OBJECT
@@ -43,7 +42,7 @@ public:
     ZelColorDialog(QWidget *parent, const zelsg::Color &color, QString name, ILibrary *library);
     ~ZelColorDialog() override;
 
-    /// The edited colour, with the text of the name field as its name.
+    /// A copy of the edited colour, with the text of the name field as its name.
     zelsg::Color getColor();
     /// The text of the name field without superfluous white space.
     QString getColorName() const;
@@ -55,8 +54,8 @@ public:
     void setActiveColorNoSignal(const ZelColor &color);
     /// Sets what reject() gives back, and the old colour that is shown beside the new one.
     void setInitialColor(const zelsg::Color &color);
-    /// Shows the slider for the transparency. The value is the alpha, 0 to 1; what is outside counts
-    /// as the nearest of them, and what isn't a number is refused with a warning.
+    /// Shows the slider for the transparency. The value is the alpha, 0 to 1; what is outside
+    /// counts as the nearest of them, and what isn't a number is refused with a warning.
     void setTransparency(float value);
     /// Chooses the colour space: RGB, CMYK, HSV, greyscale, CIE-L*ab, kelvin. Nothing for other
     /// indices.
@@ -93,7 +92,9 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void setColor(const ZelColor &c);
+    void subColorsChanged(const ZelColor &c);
     void hexValueEdited();
+    void takeDisplayColor(const ZelColor &color);
     void addSubColorToMultiColor();
     void addColorSwatch();
     void nameChanged(const QString &name);
@@ -112,26 +113,33 @@ private Q_SLOTS:
 private:
     void init(const zelsg::Color &color, QString name, ILibrary *library);
     QLayout *setupNameEdit();
-    QLayout *setupMultiColorListLayout(ILibrary *library);
+    void setupMultiColorList(ILibrary *library);
     void setupViewer();
     void setupColorSpectrumWidgets();
-    QHBoxLayout *setupHexRow();
+    QLayout *setupHexRow();
     QLayout *setupHexValueEdit();
+    void setupButtons();
+    void updatePickButton();
     void setupConfigMenu();
     QLayout *setupColorSpaceInputLayout();
     void addColorSpaceInput(const QString &name, ZelColorInput *input);
     void setupTransparency();
     QLayout *setupColorSwatchList();
+    QWidget *setupButtonBox();
     void setFocusPolicies();
 
     void activateColorSpectrum(int index);
     void setMultiColorUI();
-    /// Shows the colour in all spectra, all inputs and the hex field.
+    bool isShown(const ZelColor &color) const;
+    /// Shows the colour in viewer, spectra, inputs and the hex field.
     void showColor(const ZelColor &color, const QObject *except = nullptr);
+    void showName();
     void updateHex(const ZelColor &color);
+    void emitColorChanged(const zelsg::Color &color, bool cancelled);
     void beforeShowFirstTime();
     void beforeHide();
     QSize sizeInUnitsFromStoredSize(const QScreen *screen);
+    void takeApart();
 
     std::unique_ptr<ZelColorDialogPrivate> d_;
 };

@@ -47,6 +47,8 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setAcceptDrops(true);
     setDragDropMode(QAbstractItemView::DropOnly);
+    // Icons that stay in their places would make the list refuse drops.
+    viewport()->setAcceptDrops(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setAccessibleName(tr("Color Swatches"));
     updateIconSize();

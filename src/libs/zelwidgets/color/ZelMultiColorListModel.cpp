@@ -133,12 +133,18 @@ bool ZelMultiColorListModel::prepare(int row)
 void ZelMultiColorListModel::appendColor(const ZelColor &color)
 {
     prepare(0);
-    insertColor(rows_, color);
+    insert(rows_, color, true);
 }
 
 void ZelMultiColorListModel::insertColor(int row, const ZelColor &color)
 {
-    if (!prepare(std::max(row - 1, 0)) || row < 0)
+    prepare(0);
+    insert(row, color, false);
+}
+
+void ZelMultiColorListModel::insert(int row, const ZelColor &color, bool activate)
+{
+    if (row < 0 || row > rows_)
         return;
     const QScopedValueRollback<bool> editing(isEditing_, true);
     const int active = color_.activeIndex();
@@ -149,6 +155,8 @@ void ZelMultiColorListModel::insertColor(int row, const ZelColor &color)
         parts.move(rows_, row);
         setParts(parts, active < row ? active : active + 1);
     }
+    if (activate)
+        color_.setActiveIndex(row);
     ++rows_;
     endInsertRows();
     Q_EMIT edited();

@@ -29,6 +29,7 @@ public:
 
     /// Edits of the list. Each keeps names, weights and the active sub-colour with their colours,
     /// emits edited(), and does nothing for rows that aren't there.
+    /// An appended colour becomes the active one.
     void appendColor(const ZelColor &color);
     void insertColor(int row, const ZelColor &color);
     void replaceColor(int row, const ZelColor &color);
@@ -66,6 +67,7 @@ private:
     void setParts(const Parts &parts, int active);
     /// Catches up with changes through other handles; whether there is such a row.
     bool prepare(int row);
+    void insert(int row, const ZelColor &color, bool activate);
 
     zelsg::Color color_;
     int rows_ = 1;

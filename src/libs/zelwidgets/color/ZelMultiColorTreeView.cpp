@@ -92,7 +92,8 @@ void ZelMultiColorTreeView::addColor(const ZelColor &color)
 void ZelMultiColorTreeView::onColorChanged(zelsg::Color col, bool cancelled)
 {
     if (cancelled) {
-        if (QWidget *editor = indexWidget(currentIndex()))
+        const QModelIndex name = currentIndex().siblingAtColumn(ZelMultiColorListModel::NameColumn);
+        if (QWidget *editor = indexWidget(name))
             closeEditor(editor, QAbstractItemDelegate::NoHint);
         return;
     }
