@@ -2,8 +2,10 @@
 
 #include "pages/ActionsPage.h"
 #include "pages/ButtonsPage.h"
+#include "pages/ColorDialogPage.h"
 #include "pages/ColorInputsPage.h"
 #include "pages/ColorPlanesPage.h"
+#include "pages/ColorValuesPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
@@ -112,12 +114,19 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dialogs"), text("Credentials and confirmations"),
          text("Network credentials, a new password, deleting items, the frameless dialog"),
          QStringLiteral("lock"), &make<DialogsPage>},
+        {QStringLiteral("colorvalues"), text("Colour values"),
+         text("One colour in all spaces side by side, with its name and its temperature"),
+         QStringLiteral("palette"), &make<ColorValuesPage>},
         {QStringLiteral("colorinputs"), text("Colour inputs and sliders"),
          text("One colour in every space, channel by channel, with and without display gamma"),
          QStringLiteral("palette"), &make<ColorInputsPage>},
         {QStringLiteral("colorplanes"), text("Spectrum displays"),
          text("A plane of saturation and value with its hues, a triangle in a ring of hues"),
          QStringLiteral("multi_color"), &make<ColorPlanesPage>},
+        {QStringLiteral("colordialog"), text("Colour dialog"),
+         text("For one colour or several, with alpha, with a library, modal, and what the owner "
+              "hears"),
+         QStringLiteral("eyedropper"), &make<ColorDialogPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <ZelCore/ZelColor>
+#include <ZelSceneGraph/Color>
+
+#include <QBrush>
+#include <QPixmap>
+#include <QPoint>
+#include <QPointer>
+#include <QString>
+
+#include <optional>
+
+class ILibrary;
+class ZelColorDialog;
+
+class ZelColorWidgetPrivate
+{
+public:
+    zelsg::Color color;
+    ZelColor active;
+    QPointer<ZelColorDialog> dialog;
+    float alpha = 1.0f;
+    bool hasAlpha = false;
+    bool showModal = false;
+    bool showKelvin = false;
+    bool includeSaveButton = false;
+    bool makeMultiColorEnabled = false;
+    bool opensDialog = false;
+    QString title;
+    ILibrary *library = nullptr;
+    QBrush fillBrush;
+    /// What the brush was made for.
+    qreal fillRatio = 0;
+    QPixmap picture;
+    QString label;
+    /// Where a drag may have begun.
+    std::optional<QPoint> pressed;
+};
