@@ -14,7 +14,10 @@ class SystemColorPicker : public ZelDesktopColorPicker
 {
 public:
 #ifndef Q_OS_WIN
-    bool isAvailable() override { return portal() && portal()->isAvailable(); }
+    bool isAvailable() override
+    {
+        return portal() && portal()->isAvailable();
+    }
 
     void pick(const QString &window, QObject *context, const Answer &answer) override
     {
@@ -34,7 +37,10 @@ private:
 
     std::unique_ptr<ZelPortalColorPicker> portal_;
 #else
-    bool isAvailable() override { return false; }
+    bool isAvailable() override
+    {
+        return false;
+    }
     void pick(const QString &, QObject *context, const Answer &answer) override
     {
         refuse(context, answer);

@@ -73,20 +73,23 @@ void ZelPortalColorPicker::pick(const QString &window, QObject *context, const A
     finish(QColor());
     context_ = context;
     answer_ = answer;
-    const QString token = QStringLiteral("zel%1_%2")
-                              .arg(QCoreApplication::applicationPid())
-                              .arg(++picks_);
+    if (!bus_.isConnected()) {
+        QMetaObject::invokeMethod(
+            this, [this] { finish(QColor()); }, Qt::QueuedConnection);
+        return;
+    }
+    const QString token =
+        QStringLiteral("zel%1_%2").arg(QCoreApplication::applicationPid()).arg(++picks_);
     listenTo(requestPath(bus_, token));
     QDBusMessage call = QDBusMessage::createMethodCall(
         portalService(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.Screenshot"), QStringLiteral("PickColor"));
     call << window << QVariantMap{{QStringLiteral("handle_token"), token}};
     auto *watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, watcher, request = request_] {
-                watcher->deleteLater();
-                called(watcher->reply(), request);
-            });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request = request_] {
+        watcher->deleteLater();
+        called(watcher->reply(), request);
+    });
 }
 
 void ZelPortalColorPicker::called(const QDBusMessage &reply, const QString &request)

@@ -85,12 +85,12 @@ bool ZelColorViewer::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ContextMenu) {
         const auto *request = static_cast<QContextMenuEvent *>(event);
         const bool isByMouse = request->reason() == QContextMenuEvent::Mouse;
-        showMenu(field, isByMouse ? request->globalPos()
-                                  : field->mapToGlobal(field->rect().bottomLeft()));
+        showMenu(field,
+                 isByMouse ? request->globalPos() : field->mapToGlobal(field->rect().bottomLeft()));
         return true;
     }
-    const bool isPress = event->type() == QEvent::MouseButtonPress ||
-                         event->type() == QEvent::MouseButtonDblClick;
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
     return isPress && static_cast<QMouseEvent *>(event)->button() == Qt::RightButton;
 }
 

@@ -8,8 +8,8 @@
 class ZelColorWidget;
 
 /// The old and the new colour side by side. A click takes one of them; the menu copies its numbers,
-/// as hex, as rgb() or as floats. The numbers are display values if that is what the user enters and
-/// reads elsewhere (ZelGammaPolicy::areValuesGammaCorrected()).
+/// as hex, as rgb() or as floats. The numbers are display values if that is what the user enters
+/// and reads elsewhere (ZelGammaPolicy::areValuesGammaCorrected()).
 class ZELWIDGETS_EXPORT ZelColorViewer : public QWidget
 {
     Q_OBJECT

@@ -75,8 +75,8 @@ public Q_SLOTS:
     void cancelColorDialog();
 
 Q_SIGNALS:
-    /// The user changed the colour in the dialog or dropped one, or cancelled the dialog and has the
-    /// first colour back.
+    /// The user changed the colour in the dialog or dropped one, or cancelled the dialog and has
+    /// the first colour back.
     void colorUpdated(zelsg::Color c);
     void saveColorToLibrary(zelsg::Color col);
     /// Any mouse button was pressed.

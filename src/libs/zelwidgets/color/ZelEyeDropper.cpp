@@ -192,10 +192,9 @@ void ZelEyeDropper::follow(const QPointF &place)
         return;
     const QRect area = screen->geometry();
     const QPointF inside = d_->place - area.topLeft();
-    const QRect region = ZelScreenSample::regionAround(inside, area.size(),
-                                                       screen->devicePixelRatio(), ZelLoupe::pixels);
-    d_->sample =
-        ZelScreenSample(ZelScreenGrabber::instance().grab(screen, region), region, inside);
+    const QRect region = ZelScreenSample::regionAround(
+        inside, area.size(), screen->devicePixelRatio(), ZelLoupe::pixels);
+    d_->sample = ZelScreenSample(ZelScreenGrabber::instance().grab(screen, region), region, inside);
     move(ZelLoupe::placeBeside(floored(d_->place), size(), area));
     update();
 }

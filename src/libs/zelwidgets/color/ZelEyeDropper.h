@@ -16,9 +16,9 @@ class ZelEyeDropperPrivate;
 ///     dropper.exec();
 ///
 /// The left button picks, and so do Space and Return; the arrow keys move the cursor by a pixel,
-/// with Shift by ten. Every other button, Escape and closing cancel. While it is open it holds mouse
-/// and keyboard. Where programs can't see the screen the desktop is asked to let the user pick, and
-/// the loupe doesn't come up.
+/// with Shift by ten. Every other button, Escape and closing cancel. While it is open it holds
+/// mouse and keyboard. Where programs can't see the screen the desktop is asked to let the user
+/// pick, and the loupe doesn't come up.
 class ZELWIDGETS_EXPORT ZelEyeDropper : public QDialog
 {
     Q_OBJECT

@@ -32,7 +32,8 @@ void paintMark(QPainter *painter, const QRect &rect, int cells)
     };
     const QRect cell(
         QPoint(edge(rect.x(), rect.width(), middle), edge(rect.y(), rect.height(), middle)),
-        QPoint(edge(rect.x(), rect.width(), middle + 1), edge(rect.y(), rect.height(), middle + 1)));
+        QPoint(edge(rect.x(), rect.width(), middle + 1),
+               edge(rect.y(), rect.height(), middle + 1)));
     painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(Qt::white, 1));
     painter->drawRect(cell.adjusted(0, 0, -1, -1));
