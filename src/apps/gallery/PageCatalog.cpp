@@ -3,6 +3,7 @@
 #include "pages/ActionsPage.h"
 #include "pages/ButtonsPage.h"
 #include "pages/ColorInputsPage.h"
+#include "pages/ColorListsPage.h"
 #include "pages/ColorPlanesPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
@@ -118,6 +119,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("colorplanes"), text("Spectrum displays"),
          text("A plane of saturation and value with its hues, a triangle in a ring of hues"),
          QStringLiteral("multi_color"), &make<ColorPlanesPage>},
+        {QStringLiteral("colorlists"), text("Swatches and sub-colours"),
+         text("Colours that are kept, palettes, and lists of named sub-colours"),
+         QStringLiteral("palette"), &make<ColorListsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
