@@ -13,6 +13,7 @@
 #include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
 #include "pages/FontsPage.h"
+#include "pages/GradientPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/IconsPage.h"
 #include "pages/LabelsPage.h"
@@ -131,6 +132,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("colorlists"), text("Swatches and sub-colours"),
          text("Colours that are kept, palettes, and lists of named sub-colours"),
          QStringLiteral("palette"), &make<ColorListsPage>},
+        {QStringLiteral("gradient"), text("Gradient"),
+         text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
+         QStringLiteral("sliders"), &make<GradientPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

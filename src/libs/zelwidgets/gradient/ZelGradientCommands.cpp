@@ -93,7 +93,7 @@ void ZelGradientCommands::paste(ZelGradientDisplay *display)
 
 void ZelGradientCommands::askForPosition(ZelGradientDisplay *display)
 {
-    const ZelGradientStop stop =
+    ZelGradientStop stop =
         display->gradient() ? display->gradient()->selected() : ZelGradientStop();
     if (stop.isNull())
         return;
