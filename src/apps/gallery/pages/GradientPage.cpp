@@ -106,7 +106,7 @@ void GradientPage::addEditors()
     QVBoxLayout *section = addSection(
         tr("Two editors, one gradient"),
         tr("Drag the stops and, beside the selected one, its slopes; double click the bar for a "
-           "new color stop and a stop for its color, drop colors on both. Tab walks the stops, "
+           "new colour stop and a stop for its colour, drop colours on both. Tab walks the stops, "
            "Left and Right move them, Delete removes one; the context menu works on all."));
     auto *row = new QHBoxLayout;
     section->addLayout(row);
@@ -177,7 +177,7 @@ void GradientPage::addAnswers()
         rows_[i] = new QLabel(this);
         rows_[i]->setFixedSize(shownWidth, rowHeight);
         rows_[i]->setScaledContents(true);
-        const QString text = tr("%n pixel(s)", nullptr, rowWidths[i]);
+        const QString text = tr("%1 pixels").arg(rowWidths[i]);
         rows_[i]->setAccessibleName(text);
         rows->addWidget(new QLabel(text), int(i), 0);
         rows->addWidget(rows_[i], int(i), 1);
@@ -210,7 +210,7 @@ void GradientPage::addVariants()
     const std::array<ZelGradient::Features, 4> variants{ZelGradient::Features(), ZelGradient::Alpha,
                                                         ZelGradient::Hdr,
                                                         ZelGradient::Alpha | ZelGradient::Hdr};
-    const QStringList names{tr("Colors only"), tr("Opacity"), tr("Brightness"),
+    const QStringList names{tr("Colours only"), tr("Opacity"), tr("Brightness"),
                             tr("Opacity and brightness")};
     for (std::size_t i = 0; i < variants.size(); ++i) {
         auto *gradient = new ZelGradient(variants[i]);
