@@ -12,9 +12,6 @@ namespace {
 using Rgb = std::array<float, 3>;
 
 constexpr Rgb white = {1.0f, 1.0f, 1.0f};
-constexpr auto plainByte = [](float channel) {
-    return ZelGradientBytes::plain(channel);
-};
 
 float locationOf(int pixel, float last)
 {
