@@ -2,6 +2,7 @@
 
 #include "ZelStoredValue.h"
 #include "color/ZelColorConversion.h"
+#include "color/ZelColorIcon.h"
 #include "color/ZelColorMime.h"
 #include "color/ZelSwatchStream.h"
 
@@ -9,7 +10,6 @@
 #include <ZelCore/ZelSettings>
 
 #include <QDebug>
-#include <QIcon>
 #include <QMimeData>
 #include <QPixmap>
 
@@ -154,7 +154,7 @@ QVariant ColorSwatchModel::data(const QModelIndex &index, int role) const
         return {};
     QPixmap pixmap(iconSize);
     pixmap.fill(toDisplayQColor(color(index.row())));
-    return QIcon(pixmap);
+    return ZelColorIcon::make(pixmap);
 }
 
 bool ColorSwatchModel::setData(const QModelIndex &index, const QVariant &, int)

@@ -9,10 +9,13 @@
 
 #include <ZelCore/ZelGammaPolicy>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QHelpEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 
 namespace {
@@ -32,6 +35,28 @@ QString fileFilter()
     return ZelColorSwatchListView::tr("Palettes (*.gpl);;All files (*)");
 }
 
+/// Draws an edge round the colours, so that each is seen on any ground.
+class SwatchDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem shown(option);
+        initStyleOption(&shown, index);
+        const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
+        const QRect place =
+            style->subElementRect(QStyle::SE_ItemViewItemDecoration, &shown, option.widget);
+        painter->save();
+        painter->setPen(Qt::gray);
+        painter->drawRect(place.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
+
 } // namespace
 
 ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
@@ -39,6 +64,7 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     , model_(new ColorSwatchModel(this))
 {
     setModel(model_);
+    setItemDelegate(new SwatchDelegate(this));
     setViewMode(QListView::IconMode);
     setMovement(QListView::Static);
     setWrapping(true);

@@ -1,9 +1,9 @@
 #include "color/ZelMultiColorListModel.h"
 
 #include "color/ZelColorConversion.h"
+#include "color/ZelColorIcon.h"
 #include "color/ZelColorMime.h"
 
-#include <QIcon>
 #include <QMimeData>
 #include <QPainter>
 #include <QPersistentModelIndex>
@@ -218,7 +218,7 @@ QVariant ZelMultiColorListModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     if (index.column() == IconColumn && role == Qt::DecorationRole)
-        return QIcon(circle(toDisplayQColor(color_.getColor(index.row())), iconSize_));
+        return ZelColorIcon::make(circle(toDisplayQColor(color_.getColor(index.row())), iconSize_));
     if (index.column() == NameColumn && (role == Qt::DisplayRole || role == Qt::EditRole))
         return QString::fromStdString(color_.getName(index.row()));
     return {};
