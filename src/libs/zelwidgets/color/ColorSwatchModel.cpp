@@ -119,6 +119,13 @@ ZelColor ColorSwatchModel::color(int row) const
     return row >= 0 && std::size_t(row) < colors_.size() ? colors_[std::size_t(row)] : ZelColor();
 }
 
+QString ColorSwatchModel::text(int row) const
+{
+    const QString name = QString::fromStdString(color(row).name());
+    const QString number = toDisplayQColor(color(row)).name();
+    return name.isEmpty() ? number : name + QStringLiteral(", ") + number;
+}
+
 void ColorSwatchModel::addColor(const ZelColor &color)
 {
     addColors({color});

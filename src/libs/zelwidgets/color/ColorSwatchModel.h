@@ -20,6 +20,8 @@ public:
     const std::vector<ZelColor> &colors() const { return colors_; }
     /// White if there is no such row.
     ZelColor color(int row) const;
+    /// Name and number of the colour, for people.
+    QString text(int row) const;
     /// Appends the colour with its name.
     void addColor(const ZelColor &color);
     void addColors(const std::vector<ZelColor> &colors);

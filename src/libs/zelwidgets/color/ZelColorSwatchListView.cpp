@@ -5,6 +5,7 @@
 #include "color/ColorSwatchModel.h"
 #include "color/ZelColorConversion.h"
 #include "color/ZelColorMime.h"
+#include "color/ZelSwatchAccessible.h"
 #include "color/ZelSwatchFile.h"
 
 #include <ZelCore/ZelGammaPolicy>
@@ -22,13 +23,6 @@ namespace {
 
 constexpr double iconHeights = 1.5;
 constexpr int shownRows = 4;
-
-QString described(const ZelColor &color)
-{
-    const QString number = toDisplayQColor(color).name();
-    const QString name = QString::fromStdString(color.name());
-    return name.isEmpty() ? number : name + QStringLiteral(", ") + number;
-}
 
 QString fileFilter()
 {
@@ -63,6 +57,7 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     : QListView(parent)
     , model_(new ColorSwatchModel(this))
 {
+    ZelSwatchAccessible::installFactory();
     setModel(model_);
     setItemDelegate(new SwatchDelegate(this));
     setViewMode(QListView::IconMode);
@@ -124,6 +119,12 @@ void ZelColorSwatchListView::deleteSelected()
     for (const QModelIndex &index : selected)
         rows.push_back(index.row());
     model_->removeColors(std::move(rows));
+}
+
+void ZelColorSwatchListView::pick(const QModelIndex &index)
+{
+    setCurrentIndex(index);
+    Q_EMIT colorChanged(model_->color(index.row()));
 }
 
 /// The entry of a selected row stands for the whole selection.
@@ -198,13 +199,6 @@ void ZelColorSwatchListView::changeEvent(QEvent *event)
         updateIconSize();
 }
 
-void ZelColorSwatchListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    QListView::currentChanged(current, previous);
-    setAccessibleDescription(current.isValid() ? described(model_->color(current.row()))
-                                               : QString());
-}
-
 void ZelColorSwatchListView::dragEnterEvent(QDragEnterEvent *event)
 {
     dragMoveEvent(event);
@@ -234,8 +228,7 @@ void ZelColorSwatchListView::keyPressEvent(QKeyEvent *event)
     const bool isPick = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                         event->key() == Qt::Key_Space;
     if (isPlain && isPick && index.isValid()) {
-        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
-        Q_EMIT colorChanged(model_->color(index.row()));
+        pick(index);
     } else if (event->matches(QKeySequence::Delete)) {
         deleteSelected();
     } else {
@@ -249,7 +242,7 @@ bool ZelColorSwatchListView::viewportEvent(QEvent *event)
         return QListView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.isValid() ? described(model_->color(index.row())) : QString();
+    const QString text = index.isValid() ? model_->text(index.row()) : QString();
     QToolTip::showText(help->globalPos(), text.toHtmlEscaped(), viewport(), visualRect(index));
     return true;
 }

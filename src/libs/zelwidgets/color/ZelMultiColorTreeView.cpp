@@ -9,7 +9,9 @@
 #include <ZelWidgets/ZelStyleIcon>
 
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QHeaderView>
+#include <QIcon>
 #include <QScopedValueRollback>
 
 namespace {
@@ -176,4 +178,17 @@ void ZelMultiColorTreeView::keyPressEvent(QKeyEvent *event)
         model_->moveColor(row, isUp ? row - 1 : row + 1);
     else
         QTreeView::keyPressEvent(event);
+}
+
+void ZelMultiColorTreeView::startDrag(Qt::DropActions supportedActions)
+{
+    const QModelIndex dragged = currentIndex().siblingAtColumn(ZelMultiColorListModel::IconColumn);
+    if (!dragged.isValid())
+        return;
+    // The colour alone: a picture of the row would cover the place where it is to be dropped.
+    auto *drag = new QDrag(this);
+    drag->setMimeData(model_->mimeData({dragged}));
+    const QIcon icon = dragged.data(Qt::DecorationRole).value<QIcon>();
+    drag->setPixmap(icon.pixmap(iconSize(), devicePixelRatioF()));
+    drag->exec(supportedActions, Qt::CopyAction);
 }
