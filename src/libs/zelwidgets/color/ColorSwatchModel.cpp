@@ -2,7 +2,7 @@
 
 #include "ZelStoredValue.h"
 #include "color/ZelColorConversion.h"
-#include "color/ZelColorIcon.h"
+#include "color/ZelColorIcons.h"
 #include "color/ZelColorMime.h"
 #include "color/ZelSwatchStream.h"
 
@@ -58,14 +58,24 @@ QString legacyKey()
     return QStringLiteral("legacy_color_handled");
 }
 
+QPixmap square(const QColor &color)
+{
+    QPixmap pixmap(iconSize);
+    pixmap.fill(color);
+    return pixmap;
+}
+
 } // namespace
 
 ColorSwatchModel::ColorSwatchModel(QObject *parent)
     : QAbstractListModel(parent)
+    , icons_(std::make_unique<ZelColorIcons>())
 {
     if (!load())
         addChart();
 }
+
+ColorSwatchModel::~ColorSwatchModel() = default;
 
 bool ColorSwatchModel::load()
 {
@@ -159,9 +169,7 @@ QVariant ColorSwatchModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::DecorationRole)
         return {};
-    QPixmap pixmap(iconSize);
-    pixmap.fill(toDisplayQColor(color(index.row())));
-    return ZelColorIcon::make(pixmap);
+    return icons_->icon(toDisplayQColor(color(index.row())), square);
 }
 
 bool ColorSwatchModel::setData(const QModelIndex &index, const QVariant &, int)

@@ -1,5 +1,6 @@
 #include "color/ZelColorSwatchListView.h"
 
+#include "ZelDeleteEventFilter.h"
 #include "ZelMenu.h"
 #include "ZelMessageBox.h"
 #include "color/ColorSwatchModel.h"
@@ -73,6 +74,8 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setAccessibleName(tr("Color Swatches"));
     updateIconSize();
+    connect(new ZelDeleteEventFilter(this), &ZelDeleteEventFilter::deletePressed, this,
+            &ZelColorSwatchListView::deleteSelected);
     connect(this, &QAbstractItemView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT colorChanged(model_->color(index.row())); });
     connect(this, &QAbstractItemView::doubleClicked, this,
@@ -229,8 +232,6 @@ void ZelColorSwatchListView::keyPressEvent(QKeyEvent *event)
                         event->key() == Qt::Key_Space;
     if (isPlain && isPick && index.isValid()) {
         pick(index);
-    } else if (event->matches(QKeySequence::Delete)) {
-        deleteSelected();
     } else {
         QListView::keyPressEvent(event);
     }

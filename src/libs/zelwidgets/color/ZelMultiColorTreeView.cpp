@@ -1,5 +1,6 @@
 #include "color/ZelMultiColorTreeView.h"
 
+#include "ZelDeleteEventFilter.h"
 #include "ZelMenu.h"
 #include "ZelMessageBox.h"
 #include "color/ZelMultiColorListModel.h"
@@ -40,6 +41,8 @@ ZelMultiColorTreeView::ZelMultiColorTreeView(ILibrary *library, QWidget *parent)
     setDropIndicatorShown(true);
     setAccessibleName(tr("Sub-colors"));
     updateIconSize();
+    connect(new ZelDeleteEventFilter(this), &ZelDeleteEventFilter::deletePressed, this,
+            &ZelMultiColorTreeView::deleteCurrent);
     connect(model_, &ZelMultiColorListModel::edited, this, [this] {
         showActive();
         Q_EMIT colorChanged(color().getActive());
@@ -172,9 +175,7 @@ void ZelMultiColorTreeView::keyPressEvent(QKeyEvent *event)
 {
     const int row = currentIndex().row();
     const bool isUp = event->key() == Qt::Key_Up;
-    if (event->matches(QKeySequence::Delete))
-        deleteCurrent();
-    else if (event->modifiers() == Qt::AltModifier && (isUp || event->key() == Qt::Key_Down))
+    if (event->modifiers() == Qt::AltModifier && (isUp || event->key() == Qt::Key_Down))
         model_->moveColor(row, isUp ? row - 1 : row + 1);
     else
         QTreeView::keyPressEvent(event);
