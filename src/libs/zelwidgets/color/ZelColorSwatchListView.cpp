@@ -230,11 +230,10 @@ void ZelColorSwatchListView::keyPressEvent(QKeyEvent *event)
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool isPick = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                         event->key() == Qt::Key_Space;
-    if (isPlain && isPick && index.isValid()) {
+    if (isPlain && isPick && index.isValid())
         pick(index);
-    } else {
+    else
         QListView::keyPressEvent(event);
-    }
 }
 
 bool ZelColorSwatchListView::viewportEvent(QEvent *event)
