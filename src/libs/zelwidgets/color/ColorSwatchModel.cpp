@@ -156,8 +156,13 @@ void ColorSwatchModel::removeColors(std::vector<int> rows)
 {
     std::sort(rows.begin(), rows.end(), std::greater<>());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    for (const int row : rows)
-        removeRows(row, 1);
+    for (auto row = rows.cbegin(); row != rows.cend();) {
+        const int last = *row;
+        int first = last;
+        while (++row != rows.cend() && *row == first - 1)
+            first = *row;
+        removeRows(first, last - first + 1);
+    }
 }
 
 int ColorSwatchModel::rowCount(const QModelIndex &parent) const
