@@ -63,6 +63,23 @@ QPoint floored(const QPointF &place)
     return {int(std::floor(place.x())), int(std::floor(place.y()))};
 }
 
+/// Qt rounds the global place of a mouse event; the local one still has what is between the pixels
+/// of the desktop. It can't be taken whole, for the window may have moved since.
+QPointF placeOf(const QMouseEvent *event)
+{
+    const auto exact = [](double global, double local) {
+        const double part = local - std::floor(local);
+        const double nearest = std::round(global);
+        if (global != nearest || part == 0)
+            return global;
+        const bool isRoundedUp = part > 0.5 || (part == 0.5 && nearest > 0);
+        return isRoundedUp ? nearest + part - 1 : nearest + part;
+    };
+    const QPointF global = event->globalPosition();
+    const QPointF local = event->position();
+    return {exact(global.x(), local.x()), exact(global.y(), local.y())};
+}
+
 QPoint stepOf(int key)
 {
     switch (key) {
@@ -220,13 +237,13 @@ void ZelEyeDropper::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return reject();
-    follow(event->globalPosition());
+    follow(placeOf(event));
     pick();
 }
 
 void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 {
-    follow(event->globalPosition());
+    follow(placeOf(event));
 }
 
 void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
