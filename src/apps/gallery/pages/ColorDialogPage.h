@@ -28,7 +28,7 @@ private:
         void (*prepare)(ZelColorDialog *);
         bool isModal = false;
         ZelColorWidget *field = nullptr;
-        QPointer<ZelColorDialog> dialog;
+        QPointer<ZelColorDialog> dialog = {};
     };
 
     void addOwners();
