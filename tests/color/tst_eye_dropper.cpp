@@ -46,6 +46,7 @@ public:
     bool seesOwnWindowsOnly() const override { return seesLittle; }
     QImage grab(QScreen *screen, const QRect &region) const override
     {
+        ++grabs;
         if (isBlind)
             return {};
         return grabbed(int(QGuiApplication::screens().indexOf(screen)), region,
@@ -54,6 +55,7 @@ public:
     bool sees = true;
     bool seesLittle = false;
     bool isBlind = false;
+    mutable int grabs = 0;
 };
 
 /// What a window that covers its screen paints, in pixels of the device.
@@ -93,7 +95,7 @@ void sendMouse(QWidget *widget, QEvent::Type type, const QPointF &place,
                Qt::MouseButton button = Qt::NoButton)
 {
     const QPointF local = place - widget->mapToGlobal(QPoint(0, 0));
-    QMouseEvent event(type, local, local, place, button, button, Qt::NoModifier);
+    QMouseEvent event(type, local.toPoint(), local, place, button, button, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &event);
 }
 
@@ -299,6 +301,10 @@ void EyeDropperTest::keysGoPixelByPixel()
     QTest::keyClick(&dropper, Qt::Key_Right);
     QTest::keyClick(&dropper, Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(QCursor::pos(), QPoint(2020, 15));
+    // The platform tells of the cursor that was moved, by whole places.
+    sendMouse(&dropper, QEvent::MouseMove, {2020, 15});
+    const int before = grabber_->grabs;
+    QTRY_VERIFY(grabber_->grabs > before + 1);
     QTest::keyClick(&dropper, Qt::Key_Space);
     QCOMPARE(selected.size(), 1);
     QCOMPARE(toQColor(selected.first().first().value<ZelColor>()).rgb(), pixelOf(1, 201, 30));

@@ -19,6 +19,7 @@
 #include <QWindow>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -63,8 +64,8 @@ QPoint floored(const QPointF &place)
     return {int(std::floor(place.x())), int(std::floor(place.y()))};
 }
 
-/// Qt rounds the global place of a mouse event; the local one still has what is between the pixels
-/// of the desktop. It can't be taken whole, for the window may have moved since.
+/// Qt rounds the places of a mouse event, but for that in the window, which has what is between the
+/// pixels of the desktop. It can't be taken whole, for the window may have moved since.
 QPointF placeOf(const QMouseEvent *event)
 {
     const auto exact = [](double global, double local) {
@@ -76,7 +77,7 @@ QPointF placeOf(const QMouseEvent *event)
         return isRoundedUp ? nearest + part - 1 : nearest + part;
     };
     const QPointF global = event->globalPosition();
-    const QPointF local = event->position();
+    const QPointF local = event->scenePosition();
     return {exact(global.x(), local.x()), exact(global.y(), local.y())};
 }
 
@@ -106,6 +107,8 @@ public:
     QPointF place;
     ZelScreenSample sample;
     bool isFollowing = false;
+    /// Where a key has sent the cursor, short of the place by less than a pixel of the desktop.
+    std::optional<QPoint> sentTo;
     bool hasMouse = false;
 };
 
@@ -118,7 +121,7 @@ ZelEyeDropper::ZelEyeDropper(QWidget *parent)
     const int valueHeight = 5 * fontMetrics().height() / 2;
     setFixedSize(ZelLoupe::side + 2 * frame, ZelLoupe::side + valueHeight + 2 * frame);
     d_->timer.setInterval(followInterval);
-    connect(&d_->timer, &QTimer::timeout, this, [this] { follow(QCursor::pos()); });
+    connect(&d_->timer, &QTimer::timeout, this, [this] { followCursor(); });
 }
 
 ZelEyeDropper::~ZelEyeDropper()
@@ -193,11 +196,19 @@ void ZelEyeDropper::askDesktop()
     });
 }
 
+/// For moves that no event tells of, and for pictures that change. The cursor's place is rounded,
+/// so one that is near says nothing new of a place between the pixels of the desktop.
+void ZelEyeDropper::followCursor()
+{
+    const QPointF cursor = QCursor::pos();
+    const QPointF way = cursor - d_->place;
+    const bool isNear = std::abs(way.x()) < 1 && std::abs(way.y()) < 1;
+    follow(isNear ? d_->place : cursor);
+}
+
 void ZelEyeDropper::follow(const QPointF &place)
 {
-    // The cursor has whole places only, which say nothing new of a place between them.
-    if (QPointF(floored(d_->place)) != place)
-        d_->place = place;
+    d_->place = place;
     // Only a window that is on the screen can have the mouse.
     if (d_->isFollowing && !d_->hasMouse && windowHandle() && windowHandle()->isExposed()) {
         d_->hasMouse = true;
@@ -237,13 +248,17 @@ void ZelEyeDropper::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return reject();
-    follow(placeOf(event));
+    mouseMoveEvent(event);
     pick();
 }
 
 void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 {
-    follow(placeOf(event));
+    const QPointF place = placeOf(event);
+    if (d_->sentTo && QPointF(*d_->sentTo) == place)
+        return;
+    d_->sentTo.reset();
+    follow(place);
 }
 
 void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
@@ -256,8 +271,8 @@ void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
             d_->place + QPointF(step * pixels) / (screen ? screen->devicePixelRatio() : 1);
         if (!QGuiApplication::screenAt(floored(place)))
             return;
-        d_->place = place;
-        QCursor::setPos(floored(place));
+        d_->sentTo = floored(place);
+        QCursor::setPos(*d_->sentTo);
         follow(place);
     } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                event->key() == Qt::Key_Enter) {
