@@ -231,6 +231,7 @@ void EyeDropperTest::picksOnBothScreens_data()
     QTest::newRow("even pixel") << QPointF(2020, 10) << 1 << QPoint(200, 20);
     QTest::newRow("odd pixel") << QPointF(2020.5, 10.5) << 1 << QPoint(201, 21);
     QTest::newRow("last of ratio 2") << QPointF(3199.5, 1023.5) << 1 << QPoint(2559, 2047);
+    QTest::newRow("rounded past the last") << QPointF(3200, 0) << 1 << QPoint(2559, 0);
 }
 
 void EyeDropperTest::picksOnBothScreens()

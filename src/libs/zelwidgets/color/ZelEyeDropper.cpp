@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -79,6 +80,26 @@ QPointF placeOf(const QMouseEvent *event)
     const QPointF global = event->globalPosition();
     const QPointF local = event->scenePosition();
     return {exact(global.x(), local.x()), exact(global.y(), local.y())};
+}
+
+/// The screen at a place. Rounding may carry a place past the last pixel of all screens, which is
+/// then meant.
+QScreen *screenAt(QPointF &place)
+{
+    if (QScreen *screen = QGuiApplication::screenAt(floored(place)))
+        return screen;
+    for (QScreen *screen : QGuiApplication::screens()) {
+        const QRectF area = screen->geometry();
+        const double pixel = 1 / screen->devicePixelRatio();
+        const QPointF inside(std::clamp(place.x(), area.left(), area.right() - pixel),
+                             std::clamp(place.y(), area.top(), area.bottom() - pixel));
+        const QPointF way = place - inside;
+        if (std::abs(way.x()) <= 1 && std::abs(way.y()) <= 1) {
+            place = inside;
+            return screen;
+        }
+    }
+    return nullptr;
 }
 
 QPoint stepOf(int key)
@@ -215,7 +236,7 @@ void ZelEyeDropper::follow(const QPointF &place)
         grabMouse();
         grabKeyboard();
     }
-    QScreen *screen = QGuiApplication::screenAt(floored(d_->place));
+    QScreen *screen = screenAt(d_->place);
     if (!screen)
         return;
     const QRect area = screen->geometry();
