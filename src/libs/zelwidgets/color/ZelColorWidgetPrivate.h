@@ -17,10 +17,15 @@ class ZelColorDialog;
 class ZelColorWidgetPrivate
 {
 public:
+    /// The feature "multi_colors".
+    static bool areMultiColorsEnabled();
+
     zelsg::Color color;
     ZelColor active;
     QPointer<ZelColorDialog> dialog;
     float alpha = 1.0f;
+    /// When the dialog was opened.
+    float firstAlpha = 1.0f;
     bool hasAlpha = false;
     bool showModal = false;
     bool showKelvin = false;
@@ -34,6 +39,8 @@ public:
     qreal fillRatio = 0;
     QPixmap picture;
     QString label;
+    /// Until the owner sets a tool tip, it is the name of the colour.
+    bool isNamedByColor = true;
     /// Where a drag may have begun.
     std::optional<QPoint> pressed;
 };
