@@ -20,13 +20,15 @@ namespace {
 constexpr float opaqueFrom = 0.99f;
 constexpr double disabledOpacity = 0.4;
 
-const QIcon &overlay()
-{
-    static const ZelStyleIcon icon(QStringLiteral(":ui/icons/multicolor_overlay_label"));
-    return icon;
-}
-
 } // namespace
+
+/// Read once it is seen; few fields ever wear it.
+const QIcon &ZelColorWidgetPrivate::overlay()
+{
+    if (!overlay_)
+        overlay_ = ZelStyleIcon(QStringLiteral(":ui/icons/multicolor_overlay_label"));
+    return *overlay_;
+}
 
 ZelColorWidget::ZelColorWidget(const zelsg::Color &color, const QSize &size, bool opensDialog,
                                QWidget *parent)
@@ -272,7 +274,7 @@ void ZelColorWidget::paintEvent(QPaintEvent *event)
         else
             painter.drawPixmap(area, d_->picture);
         if (d_->color.isMultiColor())
-            overlay().paint(&painter, area, Qt::AlignRight | Qt::AlignBottom);
+            d_->overlay().paint(&painter, area, Qt::AlignRight | Qt::AlignBottom);
     }
     if (hasFocus())
         ZelFocusFrame::paint(this);

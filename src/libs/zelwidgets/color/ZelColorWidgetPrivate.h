@@ -4,6 +4,7 @@
 #include <ZelSceneGraph/Color>
 
 #include <QBrush>
+#include <QIcon>
 #include <QPixmap>
 #include <QPoint>
 #include <QPointer>
@@ -19,6 +20,8 @@ class ZelColorWidgetPrivate
 public:
     /// The feature "multi_colors".
     static bool areMultiColorsEnabled();
+    /// What a list of sub-colours wears.
+    const QIcon &overlay();
 
     zelsg::Color color;
     ZelColor active;
@@ -43,4 +46,7 @@ public:
     bool isNamedByColor = true;
     /// Where a drag may have begun.
     std::optional<QPoint> pressed;
+
+private:
+    std::optional<QIcon> overlay_;
 };
