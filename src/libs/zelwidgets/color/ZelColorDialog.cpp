@@ -120,7 +120,8 @@ void ZelColorDialog::setActiveColorNoSignal(const ZelColor &color)
     const QSignalBlocker blocker(this);
     d_->color.setColor(color, zelsg::NameOp::Keep);
     showColor(color);
-    d_->multiColorTree->reload();
+    if (d_->color.isMultiColor())
+        d_->multiColorTree->reload();
 }
 
 void ZelColorDialog::setColorNoSignal(const zelsg::Color &color)
@@ -131,7 +132,6 @@ void ZelColorDialog::setColorNoSignal(const zelsg::Color &color)
     d_->color = color.detachedClone();
     showColor(d_->color.getActive());
     setMultiColorUI();
-    d_->multiColorTree->setColor(d_->color);
 }
 
 void ZelColorDialog::setInitialColor(const zelsg::Color &color)
@@ -313,6 +313,7 @@ void ZelColorDialog::toggleMultiColor()
         d_->color.clearMultiColors();
     else
         d_->color.setMultiColor(true);
+    setMultiColorUI();
     d_->multiColorTree->reload();
     d_->multiColorTree->select(0);
     subColorsChanged(d_->color.getActive());
@@ -323,11 +324,21 @@ void ZelColorDialog::setMultiColorUI()
     const bool isMulti = d_->color.isMultiColor();
     d_->multiColorButton->setChecked(isMulti);
     d_->multiColorButton->setToolTip(isMulti ? tr("Unmake multi-color") : tr("Make multi-color"));
+    if (isMulti)
+        shareWithTree();
     d_->multiColorFrame->setVisible(isMulti);
+}
+
+void ZelColorDialog::shareWithTree()
+{
+    // Done for lists only: it costs much of the time that the dialog takes to open.
+    if (!d_->multiColorTree->color().isSharedWith(d_->color))
+        d_->multiColorTree->setColor(d_->color);
 }
 
 void ZelColorDialog::addSubColorToMultiColor()
 {
+    shareWithTree();
     d_->multiColorTree->addColor(d_->color.getActive());
 }
 

@@ -130,6 +130,7 @@ private:
 
     void activateColorSpectrum(int index);
     void setMultiColorUI();
+    void shareWithTree();
     bool isShown(const ZelColor &color) const;
     /// Shows the colour in viewer, spectra, inputs and the hex field.
     void showColor(const ZelColor &color, const QObject *except = nullptr);

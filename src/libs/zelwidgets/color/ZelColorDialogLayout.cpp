@@ -32,17 +32,19 @@ namespace {
 constexpr int margin = 4;
 constexpr int captionSpacing = 2;
 
+// Everything gets its parent at once: with a style sheet, every change of parent costs dearly.
+
 QLabel *labelFor(QWidget *field, const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = new QLabel(text, field->parentWidget());
     label->setBuddy(field);
     field->setAccessibleName(text);
     return label;
 }
 
-ZelToolButton *button(const QString &icon, const QString &toolTip)
+ZelToolButton *button(QWidget *parent, const QString &icon, const QString &toolTip)
 {
-    auto *button = new ZelToolButton;
+    auto *button = new ZelToolButton(ZelToolButton::Flat, parent);
     button->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/") + icon));
     button->setToolTip(toolTip);
     return button;
@@ -119,7 +121,7 @@ void ZelColorDialog::setupViewer()
 
 QLayout *ZelColorDialog::setupNameEdit()
 {
-    d_->nameEdit = new QLineEdit;
+    d_->nameEdit = new QLineEdit(this);
     d_->nameLabel = labelFor(d_->nameEdit, tr("Name"));
     auto *row = new QHBoxLayout;
     row->addWidget(d_->nameLabel);
@@ -131,9 +133,8 @@ QLayout *ZelColorDialog::setupNameEdit()
 void ZelColorDialog::setupMultiColorList(ILibrary *library)
 {
     d_->multiColorFrame = new QWidget(this);
-    d_->multiColorTree = new ZelMultiColorTreeView(library);
+    d_->multiColorTree = new ZelMultiColorTreeView(library, d_->multiColorFrame);
     d_->multiColorTree->setAccessibleName(tr("Sub-colors"));
-    d_->multiColorTree->setColor(d_->color);
     d_->multiColorList =
         new ZelListWithAddition(tr("Sub-colors"), tr("Add a sub-color"), d_->multiColorTree);
     d_->multiColorList->setContentsMargins(0, 0, 0, 0);
@@ -149,9 +150,9 @@ void ZelColorDialog::setupMultiColorList(ILibrary *library)
 void ZelColorDialog::setupColorSpectrumWidgets()
 {
     d_->spectrumStack = new QStackedWidget(this);
-    auto *triangle = new ZelColorTriangle(d_->shown);
+    auto *triangle = new ZelColorTriangle(d_->shown, d_->spectrumStack);
     triangle->setAccessibleName(tr("Triadic color wheel"));
-    d_->spectra = {new ZelRGBSpectrumDisplay(d_->shown), triangle};
+    d_->spectra = {new ZelRGBSpectrumDisplay(d_->shown, d_->spectrumStack), triangle};
     for (ZelSpectrumDisplay *display : std::as_const(d_->spectra)) {
         connect(display, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged), this,
                 &ZelColorDialog::setColor);
@@ -174,7 +175,7 @@ QLayout *ZelColorDialog::setupHexRow()
 
 QLayout *ZelColorDialog::setupHexValueEdit()
 {
-    d_->hexEdit = new HexValueLineEdit;
+    d_->hexEdit = new HexValueLineEdit(this);
     d_->hexEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     connect(d_->hexEdit, &QLineEdit::editingFinished, this, &ZelColorDialog::hexValueEdited);
     connect(d_->hexEdit, &HexValueLineEdit::colorPasted, this, &ZelColorDialog::takeDisplayColor);
@@ -187,22 +188,22 @@ QLayout *ZelColorDialog::setupHexValueEdit()
 
 void ZelColorDialog::setupButtons()
 {
-    d_->pickButton = button(QStringLiteral("eyedropper"), tr("Pick a color"));
+    d_->pickButton = button(this, QStringLiteral("eyedropper"), tr("Pick a color"));
     updatePickButton();
     connect(d_->pickButton, &QAbstractButton::clicked, this, &ZelColorDialog::pickMode);
 
-    d_->saveToLibraryButton = button(QStringLiteral("save"), tr("Save color to library"));
+    d_->saveToLibraryButton = button(this, QStringLiteral("save"), tr("Save color to library"));
     d_->saveToLibraryButton->hide();
     connect(d_->saveToLibraryButton, &QAbstractButton::clicked, this,
             &ZelColorDialog::saveToLibrary);
 
-    d_->multiColorButton = button(QStringLiteral("multi_color"), QString());
+    d_->multiColorButton = button(this, QStringLiteral("multi_color"), QString());
     d_->multiColorButton->setCheckable(true);
     d_->multiColorButton->hide();
     connect(d_->multiColorButton, &QAbstractButton::clicked, this,
             &ZelColorDialog::toggleMultiColor);
 
-    d_->configButton = button(QStringLiteral("settings_dropdown"), tr("Configurations"));
+    d_->configButton = button(this, QStringLiteral("settings_dropdown"), tr("Configurations"));
     d_->configButton->setPopupMode(QToolButton::InstantPopup);
     d_->configButton->setPaintMenuArrow(false);
     setupConfigMenu();
@@ -238,17 +239,17 @@ void ZelColorDialog::setupConfigMenu()
 
 QLayout *ZelColorDialog::setupColorSpaceInputLayout()
 {
-    d_->colorSpaceCombo = new ZelComboBox;
-    d_->inputStack = new QStackedWidget;
+    d_->colorSpaceCombo = new ZelComboBox(this);
+    d_->inputStack = new QStackedWidget(this);
     d_->inputStack->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     const ZelColor &color = d_->shown;
     const bool gamma = d_->gammaInput;
-    addColorSpaceInput(tr("RGB"), new ZelRGBColorInput(color, gamma));
-    addColorSpaceInput(tr("CMYK"), new ZelCMYKColorInput(color, gamma));
-    addColorSpaceInput(tr("HSV"), new ZelHSVColorInput(color, gamma));
-    addColorSpaceInput(tr("Grayscale"), new ZelGrayColorInput(color, gamma));
-    addColorSpaceInput(tr("CIE-L*ab"), new ZelCIELABColorInput(color, gamma));
-    addColorSpaceInput(tr("Kelvin"), new ZelTemperatureColorInput(color, gamma));
+    addColorSpaceInput(tr("RGB"), new ZelRGBColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("CMYK"), new ZelCMYKColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("HSV"), new ZelHSVColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("Grayscale"), new ZelGrayColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("CIE-L*ab"), new ZelCIELABColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("Kelvin"), new ZelTemperatureColorInput(color, gamma, d_->inputStack));
     setColorInputIndex(storedIndex(d_->settings, QStringLiteral("slider"), int(d_->inputs.size())));
     connect(d_->colorSpaceCombo, &QComboBox::activated, d_->inputStack,
             &QStackedWidget::setCurrentIndex);
@@ -278,6 +279,7 @@ void ZelColorDialog::setupTransparency()
 {
     d_->transparencySlider =
         new ZelIntegerSliderEdit(tr("Transparency"), 0, 100, &d_->transparency, 0, 100);
+    d_->transparencySlider->setParent(this);
     d_->transparencySlider->setSuffix(QStringLiteral("%"));
     d_->transparencySlider->hide();
     connect(d_->transparencySlider, &ZelIntegerSliderEdit::valueUpdated, this,
@@ -288,7 +290,7 @@ void ZelColorDialog::setupTransparency()
 
 QLayout *ZelColorDialog::setupColorSwatchList()
 {
-    d_->swatchList = new ZelColorSwatchListView;
+    d_->swatchList = new ZelColorSwatchListView(this);
     d_->swatchList->setAccessibleName(tr("Color Swatches"));
     auto *list = new ZelListWithAddition(tr("Color Swatches"),
                                          tr("Add picked color to swatch list"), d_->swatchList);
@@ -302,7 +304,7 @@ QLayout *ZelColorDialog::setupColorSwatchList()
 
 QWidget *ZelColorDialog::setupButtonBox()
 {
-    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     box->button(QDialogButtonBox::Ok)->setProperty("rank", QStringLiteral("Primary"));
     box->button(QDialogButtonBox::Cancel)->setProperty("rank", QStringLiteral("Tertiary"));
     connect(box, &QDialogButtonBox::accepted, this, &ZelColorDialog::accept);
