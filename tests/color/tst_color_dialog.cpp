@@ -174,6 +174,7 @@ private Q_SLOTS:
     void colorIsPicked_data();
     void colorIsPicked();
     void brokenNumbersAreSurvived();
+    void buttonsHaveTheirRank();
 };
 
 void ColorDialogTest::initTestCase()
@@ -353,6 +354,8 @@ void ColorDialogTest::changeReachesAllOthers()
     QCOMPARE(tool.changed.size(), 2);
     QVERIFY(isSame(given.getActive(), picked));
     QCOMPARE(slider->value(), slider->maximum());
+    QCOMPARE(given.getColorName(), std::string("Teal"));
+    QCOMPARE(tool.nameEdit()->text(), QStringLiteral("Teal"));
     QCOMPARE(planeChanged.size(), 1);
     // The same to the eye, though another hue for numbers: shown, but no news.
     tool.dialog->setColorNoSignal(ZelColor(Space::RGB, 0.5F, 0.5F, 0.5F));
@@ -761,6 +764,21 @@ void ColorDialogTest::brokenNumbersAreSurvived()
     }
     tool.dialog->setActiveColorNoSignal(teal);
     QCOMPARE(u'#' + tool.hex().toLower(), onDisplay(teal));
+}
+
+void ColorDialogTest::buttonsHaveTheirRank()
+{
+    qApp->setStyleSheet(QStringLiteral("QPushButton[rank=\"Primary\"] { min-width: 300px; }"
+                                       "QPushButton[rank=\"Tertiary\"] { min-width: 200px; }"));
+    {
+        Tool tool;
+        tool.show();
+        auto *box = tool.part<QDialogButtonBox>();
+        QVERIFY(box->button(QDialogButtonBox::Ok)->width() >= 300);
+        const int cancelWidth = box->button(QDialogButtonBox::Cancel)->width();
+        QVERIFY(cancelWidth >= 200 && cancelWidth < 300);
+    }
+    qApp->setStyleSheet(QString());
 }
 
 ZEL_TEST_MAIN(ColorDialogTest)

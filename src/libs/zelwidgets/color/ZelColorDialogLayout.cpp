@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QStyle>
 
 namespace {
 
@@ -58,6 +59,14 @@ QAction *checkable(QMenu *menu, const QString &text, bool isChecked)
     return action;
 }
 
+/// The sheet selects by the rank, and has looked at the button already.
+void setRank(QPushButton *button, const QString &rank)
+{
+    button->setProperty("rank", rank);
+    button->style()->unpolish(button);
+    button->style()->polish(button);
+}
+
 /// A stored index, 0 if there is no such entry.
 int storedIndex(const ZelSettings &settings, const QString &key, int count)
 {
@@ -75,6 +84,8 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
         storedValue(d_->colorSettings, QStringLiteral("enable_gamma_correction"), true);
     d_->spectrumIndex = storedIndex(d_->settings, QStringLiteral("spectrum"), 2);
     d_->color = color.detachedClone();
+    if (!name.isEmpty())
+        d_->color.setColorName(name.toStdString());
     d_->shown = d_->color.getActive();
     d_->initialColor = color.detachedClone();
     d_->initialColor.setColorName((name.isEmpty() ? tr("Color") : name).toStdString());
@@ -305,8 +316,8 @@ QLayout *ZelColorDialog::setupColorSwatchList()
 QWidget *ZelColorDialog::setupButtonBox()
 {
     auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    box->button(QDialogButtonBox::Ok)->setProperty("rank", QStringLiteral("Primary"));
-    box->button(QDialogButtonBox::Cancel)->setProperty("rank", QStringLiteral("Tertiary"));
+    setRank(box->button(QDialogButtonBox::Ok), QStringLiteral("Primary"));
+    setRank(box->button(QDialogButtonBox::Cancel), QStringLiteral("Tertiary"));
     connect(box, &QDialogButtonBox::accepted, this, &ZelColorDialog::accept);
     connect(box, &QDialogButtonBox::rejected, this, &ZelColorDialog::reject);
     return box;
