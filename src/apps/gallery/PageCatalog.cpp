@@ -4,6 +4,7 @@
 #include "pages/ButtonsPage.h"
 #include "pages/ColorDialogPage.h"
 #include "pages/ColorInputsPage.h"
+#include "pages/ColorListsPage.h"
 #include "pages/ColorPlanesPage.h"
 #include "pages/ColorValuesPage.h"
 #include "pages/ConflictsPage.h"
@@ -127,6 +128,9 @@ const QList<PageEntry> &pageCatalog()
          text("For one colour or several, with alpha, with a library, modal, and what the owner "
               "hears"),
          QStringLiteral("eyedropper"), &make<ColorDialogPage>},
+        {QStringLiteral("colorlists"), text("Swatches and sub-colours"),
+         text("Colours that are kept, palettes, and lists of named sub-colours"),
+         QStringLiteral("palette"), &make<ColorListsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

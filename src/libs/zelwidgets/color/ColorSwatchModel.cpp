@@ -2,6 +2,7 @@
 
 #include "ZelStoredValue.h"
 #include "color/ZelColorConversion.h"
+#include "color/ZelColorIcons.h"
 #include "color/ZelColorMime.h"
 #include "color/ZelSwatchStream.h"
 
@@ -9,7 +10,6 @@
 #include <ZelCore/ZelSettings>
 
 #include <QDebug>
-#include <QIcon>
 #include <QMimeData>
 #include <QPixmap>
 
@@ -58,14 +58,24 @@ QString legacyKey()
     return QStringLiteral("legacy_color_handled");
 }
 
+QPixmap square(const QColor &color)
+{
+    QPixmap pixmap(iconSize);
+    pixmap.fill(color);
+    return pixmap;
+}
+
 } // namespace
 
 ColorSwatchModel::ColorSwatchModel(QObject *parent)
     : QAbstractListModel(parent)
+    , icons_(std::make_unique<ZelColorIcons>())
 {
     if (!load())
         addChart();
 }
+
+ColorSwatchModel::~ColorSwatchModel() = default;
 
 bool ColorSwatchModel::load()
 {
@@ -119,6 +129,13 @@ ZelColor ColorSwatchModel::color(int row) const
     return row >= 0 && std::size_t(row) < colors_.size() ? colors_[std::size_t(row)] : ZelColor();
 }
 
+QString ColorSwatchModel::text(int row) const
+{
+    const QString name = QString::fromStdString(color(row).name());
+    const QString number = toDisplayQColor(color(row)).name();
+    return name.isEmpty() ? number : name + QStringLiteral(", ") + number;
+}
+
 void ColorSwatchModel::addColor(const ZelColor &color)
 {
     addColors({color});
@@ -152,9 +169,7 @@ QVariant ColorSwatchModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::DecorationRole)
         return {};
-    QPixmap pixmap(iconSize);
-    pixmap.fill(toDisplayQColor(color(index.row())));
-    return QIcon(pixmap);
+    return icons_->icon(toDisplayQColor(color(index.row())), square);
 }
 
 bool ColorSwatchModel::setData(const QModelIndex &index, const QVariant &, int)

@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 
+#include <memory>
 #include <vector>
 
 /// The user's colours, kept in the settings from one run to the next (group "colordialog", key
@@ -16,10 +17,13 @@ class ZELWIDGETS_EXPORT ColorSwatchModel : public QAbstractListModel
 public:
     /// Holds the stored colours, or those of a colour-checker chart if none can be read.
     explicit ColorSwatchModel(QObject *parent = nullptr);
+    ~ColorSwatchModel() override;
 
     const std::vector<ZelColor> &colors() const { return colors_; }
     /// White if there is no such row.
     ZelColor color(int row) const;
+    /// Name and number of the colour, for people.
+    QString text(int row) const;
     /// Appends the colour with its name.
     void addColor(const ZelColor &color);
     void addColors(const std::vector<ZelColor> &colors);
@@ -51,4 +55,5 @@ private:
     std::vector<ZelColor> colors_;
     bool isStored_ = false;
     bool isUnread_ = false;
+    std::unique_ptr<class ZelColorIcons> icons_;
 };
