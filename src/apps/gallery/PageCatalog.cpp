@@ -7,6 +7,7 @@
 #include "pages/ColorListsPage.h"
 #include "pages/ColorPlanesPage.h"
 #include "pages/ColorValuesPage.h"
+#include "pages/ColorWidgetsPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
@@ -131,6 +132,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("colorlists"), text("Swatches and sub-colours"),
          text("Colours that are kept, palettes, and lists of named sub-colours"),
          QStringLiteral("palette"), &make<ColorListsPage>},
+        {QStringLiteral("colorwidgets"), text("Colour widgets and eye dropper"),
+         text("Fields that open the dialog and take drops, old and new, colours from the screen"),
+         QStringLiteral("eyedropper"), &make<ColorWidgetsPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

@@ -69,7 +69,8 @@ public Q_SLOTS:
     void setActiveColor(ZelColor c);
     /// Emits nothing; an open dialog follows.
     void setColor(zelsg::Color c);
-    /// Shows a picture until the next colour comes; a null one brings the colour back.
+    /// Shows a picture, fitted to the field, until the next colour comes; a null one brings the
+    /// colour back.
     void setPixmap(QPixmap px);
     /// Closes the dialog as its Cancel button does.
     void cancelColorDialog();

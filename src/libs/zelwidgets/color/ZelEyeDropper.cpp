@@ -18,7 +18,9 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -63,6 +65,43 @@ QPoint floored(const QPointF &place)
     return {int(std::floor(place.x())), int(std::floor(place.y()))};
 }
 
+/// Qt rounds the places of a mouse event, but for that in the window, which has what is between the
+/// pixels of the desktop. It can't be taken whole, for the window may have moved since.
+QPointF placeOf(const QMouseEvent *event)
+{
+    const auto exact = [](double global, double local) {
+        const double part = local - std::floor(local);
+        const double nearest = std::round(global);
+        if (global != nearest || part == 0)
+            return global;
+        const bool isRoundedUp = part > 0.5 || (part == 0.5 && nearest > 0);
+        return isRoundedUp ? nearest + part - 1 : nearest + part;
+    };
+    const QPointF global = event->globalPosition();
+    const QPointF local = event->scenePosition();
+    return {exact(global.x(), local.x()), exact(global.y(), local.y())};
+}
+
+/// The screen at a place. Rounding may carry a place past the last pixel of all screens, which is
+/// then meant.
+QScreen *screenAt(QPointF &place)
+{
+    if (QScreen *screen = QGuiApplication::screenAt(floored(place)))
+        return screen;
+    for (QScreen *screen : QGuiApplication::screens()) {
+        const QRectF area = screen->geometry();
+        const double pixel = 1 / screen->devicePixelRatio();
+        const QPointF inside(std::clamp(place.x(), area.left(), area.right() - pixel),
+                             std::clamp(place.y(), area.top(), area.bottom() - pixel));
+        const QPointF way = place - inside;
+        if (std::abs(way.x()) <= 1 && std::abs(way.y()) <= 1) {
+            place = inside;
+            return screen;
+        }
+    }
+    return nullptr;
+}
+
 QPoint stepOf(int key)
 {
     switch (key) {
@@ -89,6 +128,8 @@ public:
     QPointF place;
     ZelScreenSample sample;
     bool isFollowing = false;
+    /// Where a key has sent the cursor, short of the place by less than a pixel of the desktop.
+    std::optional<QPoint> sentTo;
     bool hasMouse = false;
 };
 
@@ -101,7 +142,7 @@ ZelEyeDropper::ZelEyeDropper(QWidget *parent)
     const int valueHeight = 5 * fontMetrics().height() / 2;
     setFixedSize(ZelLoupe::side + 2 * frame, ZelLoupe::side + valueHeight + 2 * frame);
     d_->timer.setInterval(followInterval);
-    connect(&d_->timer, &QTimer::timeout, this, [this] { follow(QCursor::pos()); });
+    connect(&d_->timer, &QTimer::timeout, this, [this] { followCursor(); });
 }
 
 ZelEyeDropper::~ZelEyeDropper()
@@ -176,18 +217,26 @@ void ZelEyeDropper::askDesktop()
     });
 }
 
+/// For moves that no event tells of, and for pictures that change. The cursor's place is rounded,
+/// so one that is near says nothing new of a place between the pixels of the desktop.
+void ZelEyeDropper::followCursor()
+{
+    const QPointF cursor = QCursor::pos();
+    const QPointF way = cursor - d_->place;
+    const bool isNear = std::abs(way.x()) < 1 && std::abs(way.y()) < 1;
+    follow(isNear ? d_->place : cursor);
+}
+
 void ZelEyeDropper::follow(const QPointF &place)
 {
-    // The cursor has whole places only, which say nothing new of a place between them.
-    if (QPointF(floored(d_->place)) != place)
-        d_->place = place;
+    d_->place = place;
     // Only a window that is on the screen can have the mouse.
     if (d_->isFollowing && !d_->hasMouse && windowHandle() && windowHandle()->isExposed()) {
         d_->hasMouse = true;
         grabMouse();
         grabKeyboard();
     }
-    QScreen *screen = QGuiApplication::screenAt(floored(d_->place));
+    QScreen *screen = screenAt(d_->place);
     if (!screen)
         return;
     const QRect area = screen->geometry();
@@ -220,13 +269,17 @@ void ZelEyeDropper::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return reject();
-    follow(event->globalPosition());
+    mouseMoveEvent(event);
     pick();
 }
 
 void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 {
-    follow(event->globalPosition());
+    const QPointF place = placeOf(event);
+    if (d_->sentTo && QPointF(*d_->sentTo) == place)
+        return;
+    d_->sentTo.reset();
+    follow(place);
 }
 
 void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
@@ -239,8 +292,8 @@ void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
             d_->place + QPointF(step * pixels) / (screen ? screen->devicePixelRatio() : 1);
         if (!QGuiApplication::screenAt(floored(place)))
             return;
-        d_->place = place;
-        QCursor::setPos(floored(place));
+        d_->sentTo = floored(place);
+        QCursor::setPos(*d_->sentTo);
         follow(place);
     } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                event->key() == Qt::Key_Enter) {
