@@ -244,6 +244,8 @@ void ColorDialogTest::windowIsPlaced()
     const QSize hint(301, 400);
     const QSize desk(1600, 1000);
     QCOMPARE(windowSize({}, {96, 96}, hint, desk), QSize(376, 500));
+    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 500}), QSize(376, 430));
+    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 400}), QSize(376, 500));
     QCOMPARE(windowSize({qQNaN(), 5}, {96, 96}, hint, desk), QSize(376, 500));
     QCOMPARE(windowSize({4, 5}, {100, 120}, hint, desk), QSize(400, 600));
     QCOMPARE(windowSize({1, 1}, {96, 96}, hint, desk), hint);

@@ -12,6 +12,7 @@
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelEyeDropper>
+#include <ZelWidgets/ZelFontMetrics>
 #include <ZelWidgets/ZelIntegerSliderEdit>
 #include <ZelWidgets/ZelListWithAddition>
 #include <ZelWidgets/ZelMultiColorTreeView>
@@ -32,6 +33,8 @@ namespace {
 
 constexpr int margin = 4;
 constexpr int captionSpacing = 2;
+/// As many sub-colours are seen at once, about.
+constexpr int treeRows = 6;
 
 // Everything gets its parent at once: with a style sheet, every change of parent costs dearly.
 
@@ -145,6 +148,7 @@ void ZelColorDialog::setupMultiColorList(ILibrary *library)
 {
     d_->multiColorFrame = new QWidget(this);
     d_->multiColorTree = new ZelMultiColorTreeView(library, d_->multiColorFrame);
+    d_->multiColorTree->setMaximumHeight(ZelFontMetrics(this).editorHeight() * treeRows);
     d_->multiColorTree->setAccessibleName(tr("Sub-colors"));
     d_->multiColorList =
         new ZelListWithAddition(tr("Sub-colors"), tr("Add a sub-color"), d_->multiColorTree);
