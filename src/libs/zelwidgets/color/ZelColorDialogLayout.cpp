@@ -94,14 +94,15 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
     d_->initialColor.setColorName((name.isEmpty() ? tr("Color") : name).toStdString());
     setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     setWindowTitle(tr("Color Picker"));
-    setupViewer();
 
+    // The Tab key goes through the parts in the order in which they are made.
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addLayout(setupNameEdit());
     d_->nameEdit->setText(name);
     setupMultiColorList(library);
     layout->addWidget(d_->multiColorFrame);
+    setupViewer();
     layout->addWidget(d_->viewer);
     setupColorSpectrumWidgets();
     layout->addWidget(d_->spectrumStack, 1);
@@ -178,9 +179,9 @@ void ZelColorDialog::setupColorSpectrumWidgets()
 
 QLayout *ZelColorDialog::setupHexRow()
 {
-    setupButtons();
     auto *row = new QHBoxLayout;
     row->addLayout(setupHexValueEdit());
+    setupButtons();
     row->addStretch();
     for (ZelToolButton *each :
          {d_->pickButton, d_->saveToLibraryButton, d_->multiColorButton, d_->configButton})
