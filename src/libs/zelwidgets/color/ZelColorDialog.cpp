@@ -95,8 +95,9 @@ void ZelColorDialog::setColor(const ZelColor &c)
     if (isShown(c))
         return;
     const QColor before = toQColor(d_->shown);
+    const std::string name = d_->color.getColorName();
     d_->color.setColor(c, zelsg::NameOp::Take);
-    showName();
+    showNewName(name);
     {
         const QSignalBlocker blocker(this);
         showColor(c, sender());
@@ -107,7 +108,6 @@ void ZelColorDialog::setColor(const ZelColor &c)
 
 void ZelColorDialog::subColorsChanged(const ZelColor &c)
 {
-    showName();
     showColor(c);
     setMultiColorUI();
     emitColorChanged(d_->color, false);
@@ -160,12 +160,13 @@ void ZelColorDialog::showColor(const ZelColor &color, const QObject *except)
     updateHex(color);
 }
 
-void ZelColorDialog::showName()
+void ZelColorDialog::showNewName(const std::string &former)
 {
-    const QString name = QString::fromStdString(d_->color.getColorName());
+    const std::string name = d_->color.getColorName();
+    if (name == former)
+        return;
     const QSignalBlocker blocker(d_->nameEdit);
-    if (d_->nameEdit->text() != name)
-        d_->nameEdit->setText(name);
+    d_->nameEdit->setText(QString::fromStdString(name));
 }
 
 void ZelColorDialog::nameChanged(const QString &name)
@@ -309,6 +310,7 @@ void ZelColorDialog::pickMode()
 
 void ZelColorDialog::toggleMultiColor()
 {
+    const std::string name = d_->color.getColorName();
     if (d_->color.isMultiColor())
         d_->color.clearMultiColors();
     else
@@ -316,6 +318,7 @@ void ZelColorDialog::toggleMultiColor()
     setMultiColorUI();
     d_->multiColorTree->reload();
     d_->multiColorTree->select(0);
+    showNewName(name);
     subColorsChanged(d_->color.getActive());
 }
 

@@ -12,6 +12,7 @@
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelEyeDropper>
+#include <ZelWidgets/ZelFontMetrics>
 #include <ZelWidgets/ZelIntegerSliderEdit>
 #include <ZelWidgets/ZelListWithAddition>
 #include <ZelWidgets/ZelMultiColorTreeView>
@@ -26,11 +27,14 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QStyle>
 
 namespace {
 
 constexpr int margin = 4;
 constexpr int captionSpacing = 2;
+/// As many sub-colours are seen at once, about.
+constexpr int treeRows = 6;
 
 // Everything gets its parent at once: with a style sheet, every change of parent costs dearly.
 
@@ -58,6 +62,14 @@ QAction *checkable(QMenu *menu, const QString &text, bool isChecked)
     return action;
 }
 
+/// The sheet selects by the rank, and has looked at the button already.
+void setRank(QPushButton *button, const QString &rank)
+{
+    button->setProperty("rank", rank);
+    button->style()->unpolish(button);
+    button->style()->polish(button);
+}
+
 /// A stored index, 0 if there is no such entry.
 int storedIndex(const ZelSettings &settings, const QString &key, int count)
 {
@@ -75,19 +87,22 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
         storedValue(d_->colorSettings, QStringLiteral("enable_gamma_correction"), true);
     d_->spectrumIndex = storedIndex(d_->settings, QStringLiteral("spectrum"), 2);
     d_->color = color.detachedClone();
+    if (!name.isEmpty())
+        d_->color.setColorName(name.toStdString());
     d_->shown = d_->color.getActive();
     d_->initialColor = color.detachedClone();
     d_->initialColor.setColorName((name.isEmpty() ? tr("Color") : name).toStdString());
     setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     setWindowTitle(tr("Color Picker"));
-    setupViewer();
 
+    // The Tab key goes through the parts in the order in which they are made.
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addLayout(setupNameEdit());
     d_->nameEdit->setText(name);
     setupMultiColorList(library);
     layout->addWidget(d_->multiColorFrame);
+    setupViewer();
     layout->addWidget(d_->viewer);
     setupColorSpectrumWidgets();
     layout->addWidget(d_->spectrumStack, 1);
@@ -134,6 +149,7 @@ void ZelColorDialog::setupMultiColorList(ILibrary *library)
 {
     d_->multiColorFrame = new QWidget(this);
     d_->multiColorTree = new ZelMultiColorTreeView(library, d_->multiColorFrame);
+    d_->multiColorTree->setMaximumHeight(ZelFontMetrics(this).editorHeight() * treeRows);
     d_->multiColorTree->setAccessibleName(tr("Sub-colors"));
     d_->multiColorList =
         new ZelListWithAddition(tr("Sub-colors"), tr("Add a sub-color"), d_->multiColorTree);
@@ -163,9 +179,9 @@ void ZelColorDialog::setupColorSpectrumWidgets()
 
 QLayout *ZelColorDialog::setupHexRow()
 {
-    setupButtons();
     auto *row = new QHBoxLayout;
     row->addLayout(setupHexValueEdit());
+    setupButtons();
     row->addStretch();
     for (ZelToolButton *each :
          {d_->pickButton, d_->saveToLibraryButton, d_->multiColorButton, d_->configButton})
@@ -305,8 +321,8 @@ QLayout *ZelColorDialog::setupColorSwatchList()
 QWidget *ZelColorDialog::setupButtonBox()
 {
     auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    box->button(QDialogButtonBox::Ok)->setProperty("rank", QStringLiteral("Primary"));
-    box->button(QDialogButtonBox::Cancel)->setProperty("rank", QStringLiteral("Tertiary"));
+    setRank(box->button(QDialogButtonBox::Ok), QStringLiteral("Primary"));
+    setRank(box->button(QDialogButtonBox::Cancel), QStringLiteral("Tertiary"));
     connect(box, &QDialogButtonBox::accepted, this, &ZelColorDialog::accept);
     connect(box, &QDialogButtonBox::rejected, this, &ZelColorDialog::reject);
     return box;
