@@ -2,6 +2,8 @@
 
 #include "pages/ActionsPage.h"
 #include "pages/ButtonsPage.h"
+#include "pages/ColorInputsPage.h"
+#include "pages/ColorPlanesPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
@@ -110,6 +112,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("dialogs"), text("Credentials and confirmations"),
          text("Network credentials, a new password, deleting items, the frameless dialog"),
          QStringLiteral("lock"), &make<DialogsPage>},
+        {QStringLiteral("colorinputs"), text("Colour inputs and sliders"),
+         text("One colour in every space, channel by channel, with and without display gamma"),
+         QStringLiteral("palette"), &make<ColorInputsPage>},
+        {QStringLiteral("colorplanes"), text("Spectrum displays"),
+         text("A plane of saturation and value with its hues, a triangle in a ring of hues"),
+         QStringLiteral("multi_color"), &make<ColorPlanesPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

@@ -1,0 +1,29 @@
+#include "color/ZelColorLineEdit.h"
+
+#include "ZelControlWheel.h"
+
+#include <QKeyEvent>
+
+ZelColorLineEdit::ZelColorLineEdit(QWidget *parent)
+    : QDoubleSpinBox(parent)
+{
+    setAttribute(Qt::WA_MacShowFocusRect, false);
+    setKeyboardTracking(false);
+    setButtonSymbols(NoButtons);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+ZelColorLineEdit::~ZelColorLineEdit() = default;
+
+void ZelColorLineEdit::keyPressEvent(QKeyEvent *event)
+{
+    QDoubleSpinBox::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+}
+
+void ZelColorLineEdit::wheelEvent(QWheelEvent *event)
+{
+    ZelControlWheel::turn(event,
+                          [this](QWheelEvent *turned) { QDoubleSpinBox::wheelEvent(turned); });
+}

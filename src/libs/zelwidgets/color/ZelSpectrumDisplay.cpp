@@ -1,0 +1,5 @@
+#include "ZelSpectrumDisplay.h"
+
+ZelSpectrumDisplay::ZelSpectrumDisplay(QWidget *parent)
+    : QWidget(parent)
+{}
