@@ -429,6 +429,8 @@ void ColorListsTest::swatchesAreDropped()
     QCOMPARE(model.color(24), named("", 0.1F, 0.2F, 0.3F));
     QVERIFY(!drop(view, {5, 5}, rawData(QStringLiteral("text/plain"), "#ff0000").get()));
     QVERIFY(!drop(view, {5, 5}, rawData(ZelMimeTypes::COLOR, "broken").get()));
+    messages().expect(QtWarningMsg, QStringLiteral("aren't finite"));
+    view.addColor({ZelColor::Space::Lab, 50, std::numeric_limits<float>::quiet_NaN(), 0});
     QCOMPARE(model.rowCount(), 25);
 }
 

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 
 namespace {
@@ -56,6 +57,13 @@ QString unreadKey()
 QString legacyKey()
 {
     return QStringLiteral("legacy_color_handled");
+}
+
+/// Others couldn't be stored.
+bool isFinite(const ZelColor &color)
+{
+    const auto [x, y, z] = color.toXYZ();
+    return std::isfinite(x) && std::isfinite(y) && std::isfinite(z);
 }
 
 QPixmap square(const QColor &color)
@@ -141,8 +149,10 @@ void ColorSwatchModel::addColor(const ZelColor &color)
     addColors({color});
 }
 
-void ColorSwatchModel::addColors(const std::vector<ZelColor> &colors)
+void ColorSwatchModel::addColors(std::vector<ZelColor> colors)
 {
+    if (std::erase_if(colors, std::not_fn(isFinite)) > 0)
+        qWarning() << "Swatches that aren't finite colors are left out";
     if (colors.empty())
         return;
     const int first = rowCount();
@@ -156,8 +166,13 @@ void ColorSwatchModel::removeColors(std::vector<int> rows)
 {
     std::sort(rows.begin(), rows.end(), std::greater<>());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    for (const int row : rows)
-        removeRows(row, 1);
+    for (auto row = rows.cbegin(); row != rows.cend();) {
+        const int last = *row;
+        int first = last;
+        while (++row != rows.cend() && *row == first - 1)
+            first = *row;
+        removeRows(first, last - first + 1);
+    }
 }
 
 int ColorSwatchModel::rowCount(const QModelIndex &parent) const

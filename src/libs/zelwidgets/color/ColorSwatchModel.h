@@ -26,7 +26,8 @@ public:
     QString text(int row) const;
     /// Appends the colour with its name.
     void addColor(const ZelColor &color);
-    void addColors(const std::vector<ZelColor> &colors);
+    /// Colours that aren't finite are left out, with a warning.
+    void addColors(std::vector<ZelColor> colors);
     /// Removes these rows; rows that aren't there and doubles don't matter.
     void removeColors(std::vector<int> rows);
 
