@@ -165,7 +165,7 @@ void ColorWidgetsPage::addViewer()
     QVBoxLayout *section = addSection(
         tr("Old and new"),
         tr("A click takes one of them back; the menu copies the numbers as text. Drop a colour of "
-           "above on either."));
+           "above on the new one."));
     auto *viewer = new ZelColorViewer(hsv(205, 0.7F, 0.8F), this);
     viewer->setColor(hsv(25, 0.85F, 0.95F));
     section->addWidget(viewer);

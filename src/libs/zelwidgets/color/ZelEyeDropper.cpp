@@ -1,6 +1,7 @@
 #include "color/ZelEyeDropper.h"
 
 #include "color/ZelColorConversion.h"
+#include "color/ZelCursorPlace.h"
 #include "color/ZelLoupe.h"
 #include "color/ZelScreenGrabber.h"
 #include "color/ZelScreenSample.h"
@@ -18,7 +19,6 @@
 #include <QTimer>
 #include <QWindow>
 
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -58,48 +58,6 @@ QCursor cross()
     bars(1, Qt::black);
     painter.end();
     return QCursor(picture, middle, middle);
-}
-
-QPoint floored(const QPointF &place)
-{
-    return {int(std::floor(place.x())), int(std::floor(place.y()))};
-}
-
-/// Qt rounds the places of a mouse event, but for that in the window, which has what is between the
-/// pixels of the desktop. It can't be taken whole, for the window may have moved since.
-QPointF placeOf(const QMouseEvent *event)
-{
-    const auto exact = [](double global, double local) {
-        const double part = local - std::floor(local);
-        const double nearest = std::round(global);
-        if (global != nearest || part == 0)
-            return global;
-        const bool isRoundedUp = part > 0.5 || (part == 0.5 && nearest > 0);
-        return isRoundedUp ? nearest + part - 1 : nearest + part;
-    };
-    const QPointF global = event->globalPosition();
-    const QPointF local = event->scenePosition();
-    return {exact(global.x(), local.x()), exact(global.y(), local.y())};
-}
-
-/// The screen at a place. Rounding may carry a place past the last pixel of all screens, which is
-/// then meant.
-QScreen *screenAt(QPointF &place)
-{
-    if (QScreen *screen = QGuiApplication::screenAt(floored(place)))
-        return screen;
-    for (QScreen *screen : QGuiApplication::screens()) {
-        const QRectF area = screen->geometry();
-        const double pixel = 1 / screen->devicePixelRatio();
-        const QPointF inside(std::clamp(place.x(), area.left(), area.right() - pixel),
-                             std::clamp(place.y(), area.top(), area.bottom() - pixel));
-        const QPointF way = place - inside;
-        if (std::abs(way.x()) <= 1 && std::abs(way.y()) <= 1) {
-            place = inside;
-            return screen;
-        }
-    }
-    return nullptr;
 }
 
 QPoint stepOf(int key)
@@ -236,7 +194,7 @@ void ZelEyeDropper::follow(const QPointF &place)
         grabMouse();
         grabKeyboard();
     }
-    QScreen *screen = screenAt(d_->place);
+    QScreen *screen = ZelCursorPlace::screenAt(d_->place);
     if (!screen)
         return;
     const QRect area = screen->geometry();
@@ -244,7 +202,7 @@ void ZelEyeDropper::follow(const QPointF &place)
     const QRect region = ZelScreenSample::regionAround(
         inside, area.size(), screen->devicePixelRatio(), ZelLoupe::pixels);
     d_->sample = ZelScreenSample(ZelScreenGrabber::instance().grab(screen, region), region, inside);
-    move(ZelLoupe::placeBeside(floored(d_->place), size(), area));
+    move(ZelLoupe::placeBeside(ZelCursorPlace::floored(d_->place), size(), area));
     update();
 }
 
@@ -275,7 +233,7 @@ void ZelEyeDropper::mousePressEvent(QMouseEvent *event)
 
 void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 {
-    const QPointF place = placeOf(event);
+    const QPointF place = ZelCursorPlace::of(event);
     if (d_->sentTo && QPointF(*d_->sentTo) == place)
         return;
     d_->sentTo.reset();
@@ -286,13 +244,13 @@ void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
 {
     const QPoint step = stepOf(event->key());
     if (!step.isNull()) {
-        const QScreen *screen = QGuiApplication::screenAt(floored(d_->place));
+        const QScreen *screen = QGuiApplication::screenAt(ZelCursorPlace::floored(d_->place));
         const int pixels = event->modifiers() & Qt::ShiftModifier ? longStep : 1;
         const QPointF place =
             d_->place + QPointF(step * pixels) / (screen ? screen->devicePixelRatio() : 1);
-        if (!QGuiApplication::screenAt(floored(place)))
+        if (!QGuiApplication::screenAt(ZelCursorPlace::floored(place)))
             return;
-        d_->sentTo = floored(place);
+        d_->sentTo = ZelCursorPlace::floored(place);
         QCursor::setPos(*d_->sentTo);
         follow(place);
     } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
