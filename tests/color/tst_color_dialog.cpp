@@ -18,6 +18,7 @@
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelEyeDropper>
+#include <ZelWidgets/ZelHueSlider>
 #include <ZelWidgets/ZelIntegerSlider>
 #include <ZelWidgets/ZelIntegerSliderEdit>
 #include <ZelWidgets/ZelListWithAddition>
@@ -365,6 +366,8 @@ void ColorDialogTest::changeReachesAllOthers()
     Q_EMIT plane->colorChanged(grey);
     QVERIFY(isSame(tool.active(), grey));
     QCOMPARE(tool.changed.size(), 2);
+    // What a field tells isn't told to it.
+    QCOMPARE(plane->findChild<ZelHueSlider *>()->value(), 0);
 }
 
 void ColorDialogTest::ownersSetWithoutSignals()

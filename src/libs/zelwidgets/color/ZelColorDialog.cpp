@@ -92,9 +92,9 @@ QColor ZelColorDialog::getQColor() const
 
 void ZelColorDialog::setColor(const ZelColor &c)
 {
-    if (isShown(c))
+    const ZelColor former = d_->color.getActive();
+    if (c == former)
         return;
-    const QColor before = toQColor(d_->shown);
     const std::string name = d_->color.getColorName();
     d_->color.setColor(c, zelsg::NameOp::Take);
     showNewName(name);
@@ -102,7 +102,7 @@ void ZelColorDialog::setColor(const ZelColor &c)
         const QSignalBlocker blocker(this);
         showColor(c, sender());
     }
-    if (toQColor(c) != before)
+    if (toQColor(c) != toQColor(former))
         emitColorChanged(d_->color, false);
 }
 
@@ -115,7 +115,7 @@ void ZelColorDialog::subColorsChanged(const ZelColor &c)
 
 void ZelColorDialog::setActiveColorNoSignal(const ZelColor &color)
 {
-    if (isShown(color))
+    if (color == d_->color.getActive())
         return;
     const QSignalBlocker blocker(this);
     d_->color.setColor(color, zelsg::NameOp::Keep);
@@ -140,14 +140,8 @@ void ZelColorDialog::setInitialColor(const zelsg::Color &color)
     d_->viewer->setOldColor(d_->initialColor.getActive());
 }
 
-bool ZelColorDialog::isShown(const ZelColor &color) const
-{
-    return color == d_->color.getActive() && color == d_->shown;
-}
-
 void ZelColorDialog::showColor(const ZelColor &color, const QObject *except)
 {
-    d_->shown = color;
     d_->viewer->setColor(color);
     for (ZelSpectrumDisplay *display : std::as_const(d_->spectra)) {
         if (display != except)

@@ -132,7 +132,6 @@ private:
     void activateColorSpectrum(int index);
     void setMultiColorUI();
     void shareWithTree();
-    bool isShown(const ZelColor &color) const;
     /// Shows the colour in viewer, spectra, inputs and the hex field.
     void showColor(const ZelColor &color, const QObject *except = nullptr);
     /// Shows the name of the colour if it isn't the former one any more.

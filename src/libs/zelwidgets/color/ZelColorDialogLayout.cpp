@@ -89,7 +89,6 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
     d_->color = color.detachedClone();
     if (!name.isEmpty())
         d_->color.setColorName(name.toStdString());
-    d_->shown = d_->color.getActive();
     d_->initialColor = color.detachedClone();
     d_->initialColor.setColorName((name.isEmpty() ? tr("Color") : name).toStdString());
     setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
@@ -116,7 +115,7 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
     layout->addSpacing(4);
     layout->addWidget(setupButtonBox());
 
-    updateHex(d_->shown);
+    updateHex(d_->color.getActive());
     setMultiColorUI();
     setFocusPolicies();
     connect(d_->nameEdit, &QLineEdit::textChanged, this, &ZelColorDialog::nameChanged);
@@ -129,7 +128,7 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
 
 void ZelColorDialog::setupViewer()
 {
-    d_->viewer = new ZelColorViewer(d_->shown, this);
+    d_->viewer = new ZelColorViewer(d_->color.getActive(), this);
     connect(d_->viewer, &ZelColorViewer::colorSelected, this, &ZelColorDialog::setColor);
     connect(d_->viewer, &ZelColorViewer::doubleClick, this, &ZelColorDialog::doubleClick);
 }
@@ -165,10 +164,11 @@ void ZelColorDialog::setupMultiColorList(ILibrary *library)
 
 void ZelColorDialog::setupColorSpectrumWidgets()
 {
+    const ZelColor color = d_->color.getActive();
     d_->spectrumStack = new QStackedWidget(this);
-    auto *triangle = new ZelColorTriangle(d_->shown, d_->spectrumStack);
+    auto *triangle = new ZelColorTriangle(color, d_->spectrumStack);
     triangle->setAccessibleName(tr("Triadic color wheel"));
-    d_->spectra = {new ZelRGBSpectrumDisplay(d_->shown, d_->spectrumStack), triangle};
+    d_->spectra = {new ZelRGBSpectrumDisplay(color, d_->spectrumStack), triangle};
     for (ZelSpectrumDisplay *display : std::as_const(d_->spectra)) {
         connect(display, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged), this,
                 &ZelColorDialog::setColor);
@@ -258,7 +258,7 @@ QLayout *ZelColorDialog::setupColorSpaceInputLayout()
     d_->colorSpaceCombo = new ZelComboBox(this);
     d_->inputStack = new QStackedWidget(this);
     d_->inputStack->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const ZelColor &color = d_->shown;
+    const ZelColor color = d_->color.getActive();
     const bool gamma = d_->gammaInput;
     addColorSpaceInput(tr("RGB"), new ZelRGBColorInput(color, gamma, d_->inputStack));
     addColorSpaceInput(tr("CMYK"), new ZelCMYKColorInput(color, gamma, d_->inputStack));
