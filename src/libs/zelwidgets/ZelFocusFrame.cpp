@@ -8,6 +8,6 @@ void ZelFocusFrame::paint(QWidget *widget)
     constexpr qreal radius = 2;
     QPainter painter(widget);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(widget->palette().color(QPalette::Active, QPalette::Link));
+    painter.setPen(widget->palette().color(QPalette::Active, QPalette::Highlight));
     painter.drawRoundedRect(QRectF(widget->rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }

@@ -99,6 +99,7 @@ void ColorDialogPage::addOwners()
     caption->setBuddy(library_);
     column->addWidget(caption);
     column->addWidget(library_);
+    column->addStretch();
     library_->setAccessibleName(tr("Library"));
     caption->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     store(several());

@@ -61,6 +61,7 @@ void ZelGradientView::makeControls()
         new ZelDoubleSliderEdit(tr("Stop Brightness"), 0.0, brightest, &gain_, 0.0f,
                                 std::numeric_limits<float>::max(), nullptr, nullptr, false);
     colorWidget_ = new ZelColorWidget(zelsg::Color(1.0f, 1.0f, 1.0f), colorSize, true);
+    colorWidget_->setAccessibleName(tr("Stop Color"));
     deleteButton_ =
         stopButton(tr("Delete Stop"), ZelStyleIcon(QStringLiteral(":ui/icons/delete")), this);
     addStopButton_ =
