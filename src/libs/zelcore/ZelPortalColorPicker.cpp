@@ -111,15 +111,19 @@ void ZelPortalColorPicker::listenTo(const QString &request)
     const QString signal = QStringLiteral("Response");
     if (!request_.isEmpty())
         bus_.disconnect(portalService(), request_, requestInterface(), signal, this,
-                        SLOT(response(uint, QVariantMap)));
+                        SLOT(response(uint, QVariantMap, QDBusMessage)));
     request_ = request;
     if (!request_.isEmpty())
         bus_.connect(portalService(), request_, requestInterface(), signal, this,
-                     SLOT(response(uint, QVariantMap)));
+                     SLOT(response(uint, QVariantMap, QDBusMessage)));
 }
 
-void ZelPortalColorPicker::response(uint code, const QVariantMap &results)
+/// An answer to an earlier request may be on its way here when the next one begins.
+void ZelPortalColorPicker::response(uint code, const QVariantMap &results,
+                                    const QDBusMessage &message)
 {
+    if (message.path() != request_)
+        return;
     finish(code == 0 ? colorOf(results) : QColor());
 }
 

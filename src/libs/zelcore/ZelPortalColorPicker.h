@@ -35,7 +35,7 @@ public:
     static QColor colorOf(const QVariantMap &results);
 
 private Q_SLOTS:
-    void response(uint code, const QVariantMap &results);
+    void response(uint code, const QVariantMap &results, const QDBusMessage &message);
 
 private:
     void called(const QDBusMessage &reply, const QString &request);
