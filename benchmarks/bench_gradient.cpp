@@ -1,14 +1,20 @@
 // A row of a gradient with 8 stops of each kind, beside a QColor for each pixel and beside a
 // QLinearGradient whose stops have just changed (which makes straight lines only). First argument:
 // width in pixels; second: 100 times the display gamma, 0 for none.
-// Then one edit of a gradient with very many stops.
+// Then one edit of a gradient with very many stops, and a step of a drag in the editor, from the
+// mouse event to the painted panel (argument: stops of a kind).
 
 #include <ZelCore/ZelGammaPolicy>
+#include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelColorConversion>
 #include <ZelWidgets/ZelGradient>
+#include <ZelWidgets/ZelGradientDisplay>
 #include <ZelWidgets/ZelGradientText>
+#include <ZelWidgets/ZelGradientView>
+#include <ZelWidgets/ZelResources>
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <benchmark/benchmark.h>
@@ -152,6 +158,38 @@ void moveStopAndPaint(benchmark::State &state)
     }
 }
 
+void sendMouse(QWidget *widget, QEvent::Type type, QPoint position)
+{
+    QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+void dragStop(benchmark::State &state)
+{
+    ZelGradient gradient(ZelGradient::Alpha | ZelGradient::Hdr);
+    fill(gradient, int(state.range(0)));
+    ZelGradientView view(nullptr);
+    view.setGradient(&gradient);
+    view.resize(600, 260);
+    view.show();
+    QCoreApplication::processEvents();
+    auto *bar = view.findChild<ZelGradientDisplay *>();
+    // The first colour stop stands at the left end of the bar, below it.
+    const QPoint handle(8, bar->height() - 7);
+    sendMouse(bar, QEvent::MouseButtonPress, handle);
+    if (!gradient.selected()) {
+        state.SkipWithError("no stop is hit");
+        return;
+    }
+    int x = 0;
+    for (auto _ : state) {
+        x = (x + 3) % 500;
+        sendMouse(bar, QEvent::MouseMove, handle + QPoint(x, 0));
+        QCoreApplication::processEvents();
+    }
+}
+
 void textAndBack(benchmark::State &state)
 {
     ZelGradient gradient(ZelGradient::Alpha);
@@ -166,6 +204,7 @@ BENCHMARK(rowQColor)->ArgsProduct({{1024, 4096}, {0, 220}})->Unit(benchmark::kMi
 BENCHMARK(rowQLinearGradient)->Arg(1024)->Arg(4096)->Unit(benchmark::kMicrosecond);
 BENCHMARK(addStops)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(moveStopAndPaint)->Arg(8)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(dragStop)->Arg(8)->Arg(1000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(textAndBack)->Arg(8)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 } // namespace
@@ -173,7 +212,9 @@ BENCHMARK(textAndBack)->Arg(8)->Arg(10000)->Unit(benchmark::kMicrosecond);
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
+    zelmorawidgets_init_resources();
+    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/dark_theme.json"));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
