@@ -14,6 +14,12 @@ bool isBefore(const Vertex &left, const Vertex &right)
     return left.position.x() < right.position.x();
 }
 
+/// A path drops a point to which no line leads; this is the shortest one that it keeps.
+QPointF hair(QPointF point)
+{
+    return {1e-9 * std::max(1.0, std::abs(point.x())), 0.0};
+}
+
 bool dropUnusable(std::optional<QPointF> &tangent)
 {
     if (!tangent || zelIsFinite(*tangent))
@@ -206,6 +212,8 @@ void ZelBezierCurve::addPieces(QPainterPath &path, int first, int last) const
     path.moveTo(at(first).position);
     for (int i = first; i < last; ++i) {
         if (!hasPiece(i)) {
+            if (!hasPiece(i - 1))
+                path.lineTo(at(i).position + hair(at(i).position));
             path.moveTo(at(i + 1).position);
         } else if (isStraight(i)) {
             path.lineTo(at(i + 1).position);
