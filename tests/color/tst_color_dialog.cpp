@@ -18,6 +18,7 @@
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelEyeDropper>
+#include <ZelWidgets/ZelHueSlider>
 #include <ZelWidgets/ZelIntegerSlider>
 #include <ZelWidgets/ZelIntegerSliderEdit>
 #include <ZelWidgets/ZelListWithAddition>
@@ -174,6 +175,7 @@ private Q_SLOTS:
     void colorIsPicked_data();
     void colorIsPicked();
     void brokenNumbersAreSurvived();
+    void buttonsHaveTheirRank();
 };
 
 void ColorDialogTest::initTestCase()
@@ -243,6 +245,8 @@ void ColorDialogTest::windowIsPlaced()
     const QSize hint(301, 400);
     const QSize desk(1600, 1000);
     QCOMPARE(windowSize({}, {96, 96}, hint, desk), QSize(376, 500));
+    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 500}), QSize(376, 430));
+    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 400}), QSize(376, 500));
     QCOMPARE(windowSize({qQNaN(), 5}, {96, 96}, hint, desk), QSize(376, 500));
     QCOMPARE(windowSize({4, 5}, {100, 120}, hint, desk), QSize(400, 600));
     QCOMPARE(windowSize({1, 1}, {96, 96}, hint, desk), hint);
@@ -353,6 +357,8 @@ void ColorDialogTest::changeReachesAllOthers()
     QCOMPARE(tool.changed.size(), 2);
     QVERIFY(isSame(given.getActive(), picked));
     QCOMPARE(slider->value(), slider->maximum());
+    QCOMPARE(given.getColorName(), std::string("Teal"));
+    QCOMPARE(tool.nameEdit()->text(), QStringLiteral("Teal"));
     QCOMPARE(planeChanged.size(), 1);
     // The same to the eye, though another hue for numbers: shown, but no news.
     tool.dialog->setColorNoSignal(ZelColor(Space::RGB, 0.5F, 0.5F, 0.5F));
@@ -360,6 +366,8 @@ void ColorDialogTest::changeReachesAllOthers()
     Q_EMIT plane->colorChanged(grey);
     QVERIFY(isSame(tool.active(), grey));
     QCOMPARE(tool.changed.size(), 2);
+    // What a field tells isn't told to it.
+    QCOMPARE(plane->findChild<ZelHueSlider *>()->value(), 0);
 }
 
 void ColorDialogTest::ownersSetWithoutSignals()
@@ -761,6 +769,21 @@ void ColorDialogTest::brokenNumbersAreSurvived()
     }
     tool.dialog->setActiveColorNoSignal(teal);
     QCOMPARE(u'#' + tool.hex().toLower(), onDisplay(teal));
+}
+
+void ColorDialogTest::buttonsHaveTheirRank()
+{
+    qApp->setStyleSheet(QStringLiteral("QPushButton[rank=\"Primary\"] { min-width: 300px; }"
+                                       "QPushButton[rank=\"Tertiary\"] { min-width: 200px; }"));
+    {
+        Tool tool;
+        tool.show();
+        auto *box = tool.part<QDialogButtonBox>();
+        QVERIFY(box->button(QDialogButtonBox::Ok)->width() >= 300);
+        const int cancelWidth = box->button(QDialogButtonBox::Cancel)->width();
+        QVERIFY(cancelWidth >= 200 && cancelWidth < 300);
+    }
+    qApp->setStyleSheet(QString());
 }
 
 ZEL_TEST_MAIN(ColorDialogTest)

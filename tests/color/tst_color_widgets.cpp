@@ -8,6 +8,7 @@
 #include <ZelCore/ZelGammaPolicy>
 #include <ZelCore/ZelMimeTypes>
 #include <ZelDeliveryManager/ZelFeatureFlags>
+#include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelColorConversion>
 #include <ZelWidgets/ZelColorDialog>
 #include <ZelWidgets/ZelColorViewer>
@@ -94,6 +95,9 @@ void ColorWidgetsTest::init()
     orv::cdm::setFeatureOverride("multi_colors", false);
     ZelGammaPolicy::get()->setEnableGammaCorrection(false);
     ZelGammaPolicy::get()->setGammaCorrectValues(true);
+    QFile theme(QStringLiteral(":/res/icon_themes/light_theme.json"));
+    QVERIFY(theme.open(QIODevice::ReadOnly));
+    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
 }
 
 void ColorWidgetsTest::textsAreRead_data()
@@ -249,6 +253,14 @@ void ColorWidgetsTest::fieldKeepsAColorOfItsOwn()
     field.getColor().setActiveIndex(1);
     QCOMPARE(field.getZelColor(), rgb(1, 1, 0));
     QCOMPARE(updated.size(), 0);
+
+    // The name is the colour's until the owner has one for it.
+    callers.setColorName("Meadow");
+    field.setColor(callers);
+    QCOMPARE(field.toolTip(), QStringLiteral("Meadow"));
+    field.setToolTip(QStringLiteral("Diffuse"));
+    field.setColor(redAndBlue());
+    QCOMPARE(field.toolTip(), QStringLiteral("Diffuse"));
 }
 
 void ColorWidgetsTest::fieldTellsOfClicks()
@@ -352,9 +364,10 @@ void ColorWidgetsTest::fieldFollowsItsDialog()
 
     field.setColor(zelsg::Color(rgb(0, 0, 1)));
     QCOMPARE(toQColor(dialog->getColor().getActive()), QColor(Qt::blue));
+    updated.clear();
     field.cancelColorDialog();
-    QCOMPARE(updated.size(), 2);
-    QCOMPARE(field.getZelColor(), rgb(1, 0, 0));
+    QVERIFY(!updated.isEmpty());
+    QCOMPARE(field.getQColor(), QColor(255, 0, 0, 128));
 }
 
 void ColorWidgetsTest::fieldMayGoWithItsDialog()
@@ -413,29 +426,16 @@ void ColorWidgetsTest::dragCarriesColorAndPicture()
 {
     ZelColorWidget field(rgb(1, 0, 0), fieldSize, false);
     field.show();
-    std::optional<ZelColor> carried;
-    QColor picture;
-    int drags = 0;
-    QTimer watch;
-    connect(&watch, &QTimer::timeout, &field, [&] {
-        const auto *drag = field.findChild<QDrag *>();
-        if (!drag)
-            return;
-        ++drags;
-        carried = ZelColorMime::color(drag->mimeData());
-        picture = drag->pixmap().toImage().pixelColor(5, 5);
-        QDrag::cancel();
-        watch.stop();
-    });
     const QPoint from = field.rect().center();
     UserInput::press(&field, from);
     UserInput::move(&field, from + QPoint(1, 0));
     QVERIFY(!field.findChild<QDrag *>());
-    watch.start(0);
+    // The platform has no drags of its own; this one ends at once and lies about for a while.
     UserInput::move(&field, from + QPoint(20, 0));
-    QCOMPARE(drags, 1);
-    QCOMPARE(carried, std::optional(rgb(1, 0, 0)));
-    QCOMPARE(picture, QColor(Qt::red));
+    const auto *drag = field.findChild<QDrag *>();
+    QVERIFY(drag);
+    QCOMPARE(ZelColorMime::color(drag->mimeData()), std::optional(rgb(1, 0, 0)));
+    QCOMPARE(drag->pixmap().toImage().pixelColor(5, 5), QColor(Qt::red));
 }
 
 void ColorWidgetsTest::viewerTakesOldOrNew()
@@ -462,6 +462,7 @@ void ColorWidgetsTest::viewerTakesOldOrNew()
     selected.clear();
     QMimeData data;
     ZelColorMime::encode(rgb(1, 1, 0), &data);
+    QVERIFY(!drop(fields[0], data));
     QVERIFY(drop(fields[1], data));
     QCOMPARE(selected.size(), 1);
     QCOMPARE(selected.first().first().value<ZelColor>(), rgb(1, 1, 0));

@@ -652,6 +652,16 @@ void TestGradient::ggrBecomesStops()
     QVERIFY(std::abs(gradient.computeAlpha(0.8F) - 0.5F) < 1e-5F);
     QCOMPARE(gradient.computeAlpha(0.1F), 0.75F);
 
+    // From red to blue by way of green, or the other way round by way of magenta.
+    for (const int coloring : {1, 2}) {
+        const QByteArray line =
+            "1\n0 0.5 1  1 0 0 1  0 0 1 1  0 " + QByteArray::number(coloring) + '\n';
+        QVERIFY(ZelGradientGgr::read(ggrStart + line, gradient));
+        const auto [r, g, b] = gradient.computeColor(0.5F).toRGB();
+        QVERIFY(std::abs(g - float(coloring == 1)) < 1e-4F);
+        QVERIFY(std::abs(r - float(coloring == 2)) < 1e-4F && std::abs(r - b) < 1e-4F);
+        QCOMPARE(gradient.alphaStops(), 0);
+    }
     QVERIFY(
         ZelGradientGgr::read("GIMP Gradient\r\n1\r\n0 0.5 1 0 0 0 1 1 1 1 1 0 0\r\n", gradient));
     QCOMPARE(gradient.stops(), 2);

@@ -1,3 +1,4 @@
+#include "ShortcutBench.h"
 #include "TestCase.h"
 #include "UserInput.h"
 
@@ -5,15 +6,8 @@
 #include "ZelResources.h"
 #include "shortcuts/ViewCtrl.h"
 #include "shortcuts/ZelAction.h"
-#include "shortcuts/ZelGestureChoice.h"
-#include "shortcuts/ZelKeyRecorder.h"
 #include "shortcuts/ZelMouseActionSettings.h"
-#include "shortcuts/ZelRecordedKey.h"
-#include "shortcuts/ZelShortcutEditorWidget.h"
-#include "shortcuts/ZelShortcutFilter.h"
 #include "shortcuts/ZelShortcutHandler.h"
-#include "shortcuts/ZelShortcutTreeItem.h"
-#include "shortcuts/ZelShortcutVerdict.h"
 #include "theme/IconColorTheme.h"
 
 #include <ZelCore/ZelSettings>
@@ -26,19 +20,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 
 namespace {
 
-using Item = ZelShortcutTreeItem;
 using Shortcut = ZelMouseShortcut;
 
 constexpr int stateColumn = 4;
-
-QString id(const char *text)
-{
-    return QLatin1String(text);
-}
 
 QString keyInForce(const char *name)
 {
@@ -46,72 +33,6 @@ QString keyInForce(const char *name)
 }
 
 } // namespace
-
-/// An editor in a window of its own, and what a user does with it.
-class Bench : public QWidget
-{
-public:
-    Bench()
-    {
-        editor = std::make_unique<ZelShortcutEditorWidget>(this);
-        editor->resize(900, 700);
-        resize(900, 700);
-        for (auto *recorder : editor->findChildren<ZelKeyRecorder *>())
-            recorder->setPause(50);
-        show();
-        activateWindow();
-    }
-
-    Item *row(const char *name) const
-    {
-        for (QTreeWidgetItemIterator it(editor->tree()); *it; ++it) {
-            auto *item = static_cast<Item *>(*it);
-            if (item->id() == id(name))
-                return item;
-        }
-        return nullptr;
-    }
-    QStringList shownIds() const
-    {
-        QStringList ids;
-        for (QTreeWidgetItemIterator it(editor->tree(), QTreeWidgetItemIterator::NotHidden); *it;
-             ++it) {
-            auto *item = static_cast<Item *>(*it);
-            if (item->isShortcutItem())
-                ids += item->id();
-        }
-        return ids;
-    }
-    template <typename Widget>
-    Widget *part(const char *name) const
-    {
-        return editor->findChild<Widget *>(id(name));
-    }
-    QPushButton *button(const char *name) const { return part<QPushButton>(name); }
-    QString verdict() const { return part<QLabel>("ShortcutVerdict")->text(); }
-
-    void choose(const char *name) const { editor->tree()->setCurrentItem(row(name)); }
-    /// Up to the question; one key after another.
-    void record(const char *name, const QList<QKeyCombination> &keys) const
-    {
-        choose(name);
-        editor->record();
-        for (const QKeyCombination &key : keys) {
-            QTest::keyClick(part<QLineEdit>("ShortcutKeyRecorder"), key.key(),
-                            key.keyboardModifiers());
-        }
-    }
-    QCheckBox *checkBox(const QString &text) const
-    {
-        for (auto *box : editor->findChildren<QCheckBox *>()) {
-            if (box->text().remove(u'&') == text)
-                return box;
-        }
-        return nullptr;
-    }
-
-    std::unique_ptr<ZelShortcutEditorWidget> editor;
-};
 
 class ShortcutEditorTest : public TestCase
 {
@@ -121,12 +42,6 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void keyPressesBecomeKeys_data();
-    void keyPressesBecomeKeys();
-    void gesturesAreWhatTheirTextCanTell();
-    void bindingsClash_data();
-    void bindingsClash();
-    void aFilterWantsAllOfItsConditions();
     void everyKeyCanBeRecorded_data();
     void everyKeyCanBeRecorded();
     void aReassignedKeyLeavesTheOthersOfItsScope();
@@ -186,133 +101,6 @@ void ShortcutEditorTest::cleanup()
     }
     window_.reset();
     TestCase::cleanup();
-}
-
-void ShortcutEditorTest::keyPressesBecomeKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("scanCode");
-    QTest::addColumn<QString>("portable");
-    const auto row = [](const char *name, int key, int modifiers, const QString &text,
-                        const char *portable, int scanCode = 0) {
-        QTest::newRow(name) << key << modifiers << text << scanCode << id(portable);
-    };
-    constexpr int shift = Qt::ShiftModifier;
-    constexpr int ctrl = Qt::ControlModifier;
-    constexpr int keypad = Qt::KeypadModifier;
-    row("letter", Qt::Key_A, 0, QStringLiteral("a"), "A");
-    row("capital", Qt::Key_A, shift, QStringLiteral("A"), "Shift+A");
-    row("symbol", Qt::Key_Exclam, shift, QStringLiteral("!"), "!");
-    row("shifted space", Qt::Key_Space, shift, QStringLiteral(" "), "Shift+Space");
-    row("back tab", Qt::Key_Backtab, shift, QString(), "Shift+Tab");
-    row("keypad", Qt::Key_5, keypad, QStringLiteral("5"), "Num+5");
-    row("keypad enter", Qt::Key_Enter, keypad | ctrl, QString(), "Ctrl+Num+Enter");
-    row("modifier alone", Qt::Key_Control, ctrl, QString(), "");
-    row("dead key", Qt::Key_Dead_Acute, 0, QString(), "");
-    row("unknown", Qt::Key_unknown, 0, QString(), "");
-    row("group switch", Qt::Key_Q, Qt::GroupSwitchModifier, QStringLiteral("@"), "Q");
-    row("umlaut", Qt::Key_Udiaeresis, ctrl, QString(), "Ctrl+\xdc");
-#ifdef Q_OS_LINUX
-    row("cyrillic es", 0x421, ctrl, QString(), "Ctrl+C", 54);
-    row("cyrillic ya", 0x42f, ctrl | shift, QString(), "Ctrl+Shift+Z", 52);
-    row("cyrillic be", 0x411, 0, QStringLiteral("\u0431"), ",", 59);
-    row("greek alpha", 0x391, ctrl, QString(), "Ctrl+A", 38);
-#endif
-    QTest::newRow("no place known")
-        << 0x421 << ctrl << QString() << 0 << QString(QStringLiteral("Ctrl+") + QChar(0x421));
-}
-
-void ShortcutEditorTest::keyPressesBecomeKeys()
-{
-    QFETCH(const int, key);
-    QFETCH(const int, modifiers);
-    QFETCH(const QString, text);
-    QFETCH(const int, scanCode);
-    QFETCH(const QString, portable);
-    const QKeyEvent event(QEvent::KeyPress, key, Qt::KeyboardModifiers(modifiers),
-                          quint32(scanCode), 0, 0, text);
-    const auto combination = ZelRecordedKey::combination(event);
-    QCOMPARE(combination ? QKeySequence(*combination).toString(QKeySequence::PortableText)
-                         : QString(),
-             portable);
-}
-
-void ShortcutEditorTest::gesturesAreWhatTheirTextCanTell()
-{
-    using namespace ZelGestureChoice;
-    const QKeyCombination digit(Qt::NoModifier, Qt::Key_1);
-    const QKeyCombination both(Qt::ControlModifier | Qt::MetaModifier, Qt::Key_2);
-    const QList<Shortcut> gestures{{Shortcut::LeftClick, digit, Qt::LeftButton},
-                                   {Shortcut::LeftClick, both, Qt::NoButton},
-                                   {Shortcut::Drag, digit, Qt::LeftButton | Qt::BackButton},
-                                   {Shortcut::Drag, digit, Qt::NoButton},
-                                   {Shortcut::Wheel, both, Qt::MiddleButton}};
-    for (const Shortcut &gesture : gestures) {
-        const Shortcut kept = normalized(gesture);
-        QCOMPARE(Shortcut::buildFromExportedString(kept.exportToString()), kept);
-    }
-    QCOMPARE(normalized(gestures[1]).getKeyCombination().key(), Qt::Key_2);
-    QVERIFY(isComplete(normalized(gestures[2])));
-    QVERIFY(!isComplete(normalized(gestures[3])));
-    QVERIFY(!isComplete({}));
-    QVERIFY(!events(ZelMouseAction::DragOnly).contains(Shortcut::Wheel));
-    QVERIFY(!events(ZelMouseAction::OneShot).contains(Shortcut::Drag));
-}
-
-void ShortcutEditorTest::bindingsClash_data()
-{
-    QTest::addColumn<QString>("a");
-    QTest::addColumn<QString>("b");
-    QTest::addColumn<bool>("clash");
-    const auto row = [](const char *a, const char *b, bool clash) {
-        QTest::addRow("%s and %s", a, b) << id(a) << id(b) << clash;
-    };
-    row("Ctrl+K", "ctrl+k", true);
-    row("Ctrl+K", "Ctrl+K, C", true);
-    row("Ctrl+K, C", "Ctrl+K, V", false);
-    row("5", "Num+5", false);
-    row("", "", false);
-    row("!#MD#LMB#!#", "!#MD#lmb#!#", true);
-    row("!#MD#LMB#!#", "!#MD#RMB#!#", false);
-    row("!#MW#/", "A", false);
-    row("!#", "", false);
-}
-
-void ShortcutEditorTest::bindingsClash()
-{
-    QFETCH(const bool, clash);
-    QFETCH(const QString, a);
-    QFETCH(const QString, b);
-    const auto first = ZelShortcutBinding::of(a);
-    const auto second = ZelShortcutBinding::of(b);
-    QCOMPARE(first.clashesWith(second), clash);
-    QCOMPARE(second.clashesWith(first), clash);
-    if (clash)
-        QCOMPARE(first.bucket(), second.bucket());
-}
-
-void ShortcutEditorTest::aFilterWantsAllOfItsConditions()
-{
-    const ZelShortcutFilter::Row row{QStringLiteral("camera frame all ctrl+k, f"),
-                                     {Qt::CTRL | Qt::Key_K, Qt::Key_F},
-                                     true,
-                                     false};
-    ZelShortcutFilter filter;
-    QVERIFY(filter.isEmpty() && filter.fits(row));
-    filter.setText(QStringLiteral("  ALL cam "));
-    QVERIFY(!filter.isEmpty() && filter.fits(row));
-    filter.key = QKeySequence(Qt::CTRL | Qt::Key_K);
-    filter.onlyChanged = true;
-    QVERIFY(filter.fits(row));
-    filter.key = QKeySequence(Qt::CTRL | Qt::Key_K, Qt::Key_G);
-    QVERIFY(!filter.fits(row));
-    filter.key = QKeySequence(Qt::CTRL | Qt::Key_K, Qt::Key_F, Qt::Key_F);
-    QVERIFY(!filter.fits(row));
-    filter.key = {};
-    filter.onlyConflicts = true;
-    QVERIFY(!filter.fits(row));
 }
 
 void ShortcutEditorTest::everyKeyCanBeRecorded_data()

@@ -7,6 +7,7 @@
 #include "pages/ColorListsPage.h"
 #include "pages/ColorPlanesPage.h"
 #include "pages/ColorValuesPage.h"
+#include "pages/ColorWidgetsPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
 #include "pages/DialogsPage.h"
@@ -132,6 +133,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("colorlists"), text("Swatches and sub-colours"),
          text("Colours that are kept, palettes, and lists of named sub-colours"),
          QStringLiteral("palette"), &make<ColorListsPage>},
+        {QStringLiteral("colorwidgets"), text("Colour widgets and eye dropper"),
+         text("Fields that open the dialog and take drops, old and new, colours from the screen"),
+         QStringLiteral("eyedropper"), &make<ColorWidgetsPage>},
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},

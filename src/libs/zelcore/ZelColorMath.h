@@ -151,16 +151,23 @@ inline Triple rgbToXyz(const Triple &rgb)
             0.019334f * red + 0.119193f * green + 0.950227f * blue};
 }
 
-/// Always within 0 to 1: what RGB can't show is clamped channel by channel, and what isn't a
-/// number becomes 0.
-inline Triple xyzToRgb(const Triple &xyz)
+/// Amounts of red, green and blue light, not encoded yet and not clamped.
+inline Triple xyzToLight(const Triple &xyz)
 {
     const float x = xyz[0] / 100.0f;
     const float y = xyz[1] / 100.0f;
     const float z = xyz[2] / 100.0f;
-    return {encoded(3.240479f * x - 1.53715f * y - 0.498535f * z),
-            encoded(-0.969256f * x + 1.875992f * y + 0.041556f * z),
-            encoded(0.055648f * x - 0.204043f * y + 1.057311f * z)};
+    return {3.240479f * x - 1.53715f * y - 0.498535f * z,
+            -0.969256f * x + 1.875992f * y + 0.041556f * z,
+            0.055648f * x - 0.204043f * y + 1.057311f * z};
+}
+
+/// Always within 0 to 1: what RGB can't show is clamped channel by channel, and what isn't a
+/// number becomes 0.
+inline Triple xyzToRgb(const Triple &xyz)
+{
+    const Triple light = xyzToLight(xyz);
+    return {encoded(light[0]), encoded(light[1]), encoded(light[2])};
 }
 
 inline Triple xyzToLab(const Triple &xyz)

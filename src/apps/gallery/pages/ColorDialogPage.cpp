@@ -100,7 +100,7 @@ void ColorDialogPage::addOwners()
     column->addWidget(caption);
     column->addWidget(library_);
     library_->setAccessibleName(tr("Library"));
-    library_->setMaximumHeight(180);
+    caption->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     store(several());
     row->addStretch();
 }

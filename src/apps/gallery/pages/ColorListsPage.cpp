@@ -13,6 +13,7 @@ namespace {
 
 constexpr QSize fieldSize(220, 160);
 constexpr int rowSpacing = 32;
+constexpr int listSpacing = 4;
 constexpr int treeHeight = 190;
 
 ZelColor named(const QString &name, const char *rgb)
@@ -54,11 +55,13 @@ void ColorListsPage::addSwatches()
     section->addLayout(row);
     auto *list = new ZelListWithAddition(tr("Color Swatches"),
                                          tr("Add picked color to swatch list"), swatches_);
+    list->setSpacing(listSpacing);
     row->addLayout(list, 1);
     field_->setFixedSize(fieldSize);
     field_->setAccessibleName(tr("Picked color"));
     row->addWidget(field_, 0, Qt::AlignTop);
     auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(2 * listSpacing);
     row->addLayout(buttons);
     auto *importing = new QPushButton(tr("Import..."), this);
     auto *exporting = new QPushButton(tr("Export..."), this);
@@ -104,7 +107,7 @@ void ColorListsPage::addSubColors()
     addTree(row, autumn.detachedClone(), tr("Locked"))->setEnabled(false);
 }
 
-ZelMultiColorTreeView *ColorListsPage::addTree(QLayout *row, const zelsg::Color &color,
+ZelMultiColorTreeView *ColorListsPage::addTree(QHBoxLayout *row, const zelsg::Color &color,
                                                const QString &title)
 {
     auto *tree = new ZelMultiColorTreeView(nullptr, this);
@@ -112,7 +115,8 @@ ZelMultiColorTreeView *ColorListsPage::addTree(QLayout *row, const zelsg::Color 
     tree->setAccessibleName(title);
     tree->setFixedHeight(treeHeight);
     auto *list = new ZelListWithAddition(title, tr("Add the picked color"), tree);
-    row->addItem(list);
+    list->setSpacing(listSpacing);
+    row->addLayout(list, 1);
     connect(list, qOverload<>(&ZelListWithAddition::addItem), this, [this, tree] {
         if (tree->isEnabled())
             tree->addColor(picked_);

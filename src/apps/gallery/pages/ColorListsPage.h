@@ -4,6 +4,7 @@
 
 #include <ZelSceneGraph/Color>
 
+class QHBoxLayout;
 class ZelColorSwatchListView;
 class ZelMultiColorTreeView;
 class ZelSpectrumDisplay;
@@ -19,7 +20,8 @@ public:
 private:
     void addSwatches();
     void addSubColors();
-    ZelMultiColorTreeView *addTree(QLayout *row, const zelsg::Color &color, const QString &title);
+    ZelMultiColorTreeView *addTree(QHBoxLayout *row, const zelsg::Color &color,
+                                   const QString &title);
     void take(const ZelColor &color);
 
     ZelSpectrumDisplay *field_;

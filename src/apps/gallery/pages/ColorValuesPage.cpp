@@ -122,8 +122,12 @@ void ColorValuesPage::addChoice()
     connect(plane_, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged), this,
             &ColorValuesPage::takeFromUser);
 
+    auto *column = new QVBoxLayout;
+    row->addLayout(column);
     auto *form = new QFormLayout;
-    row->addLayout(form);
+    form->setVerticalSpacing(12);
+    column->addLayout(form);
+    column->addStretch();
     samples_ = new ZelComboBox(this);
     for (const Sample &sample : samples)
         samples_->addItem(tr(sample.name));

@@ -1,5 +1,6 @@
 #include "GradientPage.h"
 
+#include <ZelCore/ZelGammaPolicy>
 #include <ZelWidgets/ZelGradient>
 #include <ZelWidgets/ZelGradientGgr>
 #include <ZelWidgets/ZelGradientView>
@@ -152,8 +153,15 @@ void GradientPage::choosePreset(int index)
     QFile file(path);
     QString error = tr("the file can't be read");
     if (!file.open(QIODevice::ReadOnly) ||
-        !ZelGradientGgr::read(file.read(mostBytes), *gradient_, nullptr, &error))
+        !ZelGradientGgr::read(file.read(mostBytes), *gradient_, nullptr, &error)) {
         log(tr("%1: %2").arg(path, error));
+        return;
+    }
+    // The files hold colours as they look on the display.
+    for (int i = 0; i < gradient_->colorStops(); ++i) {
+        ZelGradientStop stop = gradient_->colorStop(i);
+        stop.setColor(ZelGammaPolicy::get()->inverseGammaCorrect(stop.color()));
+    }
 }
 
 void GradientPage::addAnswers()

@@ -2,6 +2,7 @@
 
 #include "ZelStoredValue.h"
 #include "color/ZelColorConversion.h"
+#include "color/ZelColorIcons.h"
 #include "color/ZelColorMime.h"
 #include "color/ZelSwatchStream.h"
 
@@ -9,12 +10,12 @@
 #include <ZelCore/ZelSettings>
 
 #include <QDebug>
-#include <QIcon>
 #include <QMimeData>
 #include <QPixmap>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 
 namespace {
@@ -58,14 +59,31 @@ QString legacyKey()
     return QStringLiteral("legacy_color_handled");
 }
 
+/// Others couldn't be stored.
+bool isFinite(const ZelColor &color)
+{
+    const auto [x, y, z] = color.toXYZ();
+    return std::isfinite(x) && std::isfinite(y) && std::isfinite(z);
+}
+
+QPixmap square(const QColor &color)
+{
+    QPixmap pixmap(iconSize);
+    pixmap.fill(color);
+    return pixmap;
+}
+
 } // namespace
 
 ColorSwatchModel::ColorSwatchModel(QObject *parent)
     : QAbstractListModel(parent)
+    , icons_(std::make_unique<ZelColorIcons>())
 {
     if (!load())
         addChart();
 }
+
+ColorSwatchModel::~ColorSwatchModel() = default;
 
 bool ColorSwatchModel::load()
 {
@@ -119,13 +137,22 @@ ZelColor ColorSwatchModel::color(int row) const
     return row >= 0 && std::size_t(row) < colors_.size() ? colors_[std::size_t(row)] : ZelColor();
 }
 
+QString ColorSwatchModel::text(int row) const
+{
+    const QString name = QString::fromStdString(color(row).name());
+    const QString number = toDisplayQColor(color(row)).name();
+    return name.isEmpty() ? number : name + QStringLiteral(", ") + number;
+}
+
 void ColorSwatchModel::addColor(const ZelColor &color)
 {
     addColors({color});
 }
 
-void ColorSwatchModel::addColors(const std::vector<ZelColor> &colors)
+void ColorSwatchModel::addColors(std::vector<ZelColor> colors)
 {
+    if (std::erase_if(colors, std::not_fn(isFinite)) > 0)
+        qWarning() << "Swatches that aren't finite colors are left out";
     if (colors.empty())
         return;
     const int first = rowCount();
@@ -139,8 +166,13 @@ void ColorSwatchModel::removeColors(std::vector<int> rows)
 {
     std::sort(rows.begin(), rows.end(), std::greater<>());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    for (const int row : rows)
-        removeRows(row, 1);
+    for (auto row = rows.cbegin(); row != rows.cend();) {
+        const int last = *row;
+        int first = last;
+        while (++row != rows.cend() && *row == first - 1)
+            first = *row;
+        removeRows(first, last - first + 1);
+    }
 }
 
 int ColorSwatchModel::rowCount(const QModelIndex &parent) const
@@ -152,9 +184,7 @@ QVariant ColorSwatchModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role != Qt::DecorationRole)
         return {};
-    QPixmap pixmap(iconSize);
-    pixmap.fill(toDisplayQColor(color(index.row())));
-    return QIcon(pixmap);
+    return icons_->icon(toDisplayQColor(color(index.row())), square);
 }
 
 bool ColorSwatchModel::setData(const QModelIndex &index, const QVariant &, int)

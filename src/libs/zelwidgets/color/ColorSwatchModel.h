@@ -5,6 +5,7 @@
 
 #include <QAbstractListModel>
 
+#include <memory>
 #include <vector>
 
 /// The user's colours, kept in the settings from one run to the next (group "colordialog", key
@@ -16,13 +17,17 @@ class ZELWIDGETS_EXPORT ColorSwatchModel : public QAbstractListModel
 public:
     /// Holds the stored colours, or those of a colour-checker chart if none can be read.
     explicit ColorSwatchModel(QObject *parent = nullptr);
+    ~ColorSwatchModel() override;
 
     const std::vector<ZelColor> &colors() const { return colors_; }
     /// White if there is no such row.
     ZelColor color(int row) const;
+    /// Name and number of the colour, for people.
+    QString text(int row) const;
     /// Appends the colour with its name.
     void addColor(const ZelColor &color);
-    void addColors(const std::vector<ZelColor> &colors);
+    /// Colours that aren't finite are left out, with a warning.
+    void addColors(std::vector<ZelColor> colors);
     /// Removes these rows; rows that aren't there and doubles don't matter.
     void removeColors(std::vector<int> rows);
 
@@ -51,4 +56,5 @@ private:
     std::vector<ZelColor> colors_;
     bool isStored_ = false;
     bool isUnread_ = false;
+    std::unique_ptr<class ZelColorIcons> icons_;
 };

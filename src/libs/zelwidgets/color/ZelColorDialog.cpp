@@ -92,22 +92,22 @@ QColor ZelColorDialog::getQColor() const
 
 void ZelColorDialog::setColor(const ZelColor &c)
 {
-    if (isShown(c))
+    const ZelColor former = d_->color.getActive();
+    if (c == former)
         return;
-    const QColor before = toQColor(d_->shown);
+    const std::string name = d_->color.getColorName();
     d_->color.setColor(c, zelsg::NameOp::Take);
-    showName();
+    showNewName(name);
     {
         const QSignalBlocker blocker(this);
         showColor(c, sender());
     }
-    if (toQColor(c) != before)
+    if (toQColor(c) != toQColor(former))
         emitColorChanged(d_->color, false);
 }
 
 void ZelColorDialog::subColorsChanged(const ZelColor &c)
 {
-    showName();
     showColor(c);
     setMultiColorUI();
     emitColorChanged(d_->color, false);
@@ -115,12 +115,13 @@ void ZelColorDialog::subColorsChanged(const ZelColor &c)
 
 void ZelColorDialog::setActiveColorNoSignal(const ZelColor &color)
 {
-    if (isShown(color))
+    if (color == d_->color.getActive())
         return;
     const QSignalBlocker blocker(this);
     d_->color.setColor(color, zelsg::NameOp::Keep);
     showColor(color);
-    d_->multiColorTree->reload();
+    if (d_->color.isMultiColor())
+        d_->multiColorTree->reload();
 }
 
 void ZelColorDialog::setColorNoSignal(const zelsg::Color &color)
@@ -131,7 +132,6 @@ void ZelColorDialog::setColorNoSignal(const zelsg::Color &color)
     d_->color = color.detachedClone();
     showColor(d_->color.getActive());
     setMultiColorUI();
-    d_->multiColorTree->setColor(d_->color);
 }
 
 void ZelColorDialog::setInitialColor(const zelsg::Color &color)
@@ -140,14 +140,8 @@ void ZelColorDialog::setInitialColor(const zelsg::Color &color)
     d_->viewer->setOldColor(d_->initialColor.getActive());
 }
 
-bool ZelColorDialog::isShown(const ZelColor &color) const
-{
-    return color == d_->color.getActive() && color == d_->shown;
-}
-
 void ZelColorDialog::showColor(const ZelColor &color, const QObject *except)
 {
-    d_->shown = color;
     d_->viewer->setColor(color);
     for (ZelSpectrumDisplay *display : std::as_const(d_->spectra)) {
         if (display != except)
@@ -160,12 +154,13 @@ void ZelColorDialog::showColor(const ZelColor &color, const QObject *except)
     updateHex(color);
 }
 
-void ZelColorDialog::showName()
+void ZelColorDialog::showNewName(const std::string &former)
 {
-    const QString name = QString::fromStdString(d_->color.getColorName());
+    const std::string name = d_->color.getColorName();
+    if (name == former)
+        return;
     const QSignalBlocker blocker(d_->nameEdit);
-    if (d_->nameEdit->text() != name)
-        d_->nameEdit->setText(name);
+    d_->nameEdit->setText(QString::fromStdString(name));
 }
 
 void ZelColorDialog::nameChanged(const QString &name)
@@ -309,12 +304,15 @@ void ZelColorDialog::pickMode()
 
 void ZelColorDialog::toggleMultiColor()
 {
+    const std::string name = d_->color.getColorName();
     if (d_->color.isMultiColor())
         d_->color.clearMultiColors();
     else
         d_->color.setMultiColor(true);
+    setMultiColorUI();
     d_->multiColorTree->reload();
     d_->multiColorTree->select(0);
+    showNewName(name);
     subColorsChanged(d_->color.getActive());
 }
 
@@ -323,11 +321,21 @@ void ZelColorDialog::setMultiColorUI()
     const bool isMulti = d_->color.isMultiColor();
     d_->multiColorButton->setChecked(isMulti);
     d_->multiColorButton->setToolTip(isMulti ? tr("Unmake multi-color") : tr("Make multi-color"));
+    if (isMulti)
+        shareWithTree();
     d_->multiColorFrame->setVisible(isMulti);
+}
+
+void ZelColorDialog::shareWithTree()
+{
+    // Done for lists only: it costs much of the time that the dialog takes to open.
+    if (!d_->multiColorTree->color().isSharedWith(d_->color))
+        d_->multiColorTree->setColor(d_->color);
 }
 
 void ZelColorDialog::addSubColorToMultiColor()
 {
+    shareWithTree();
     d_->multiColorTree->addColor(d_->color.getActive());
 }
 

@@ -9,6 +9,7 @@
 #include <QDialog>
 
 #include <memory>
+#include <string>
 
 class QLayout;
 class QScreen;
@@ -130,10 +131,11 @@ private:
 
     void activateColorSpectrum(int index);
     void setMultiColorUI();
-    bool isShown(const ZelColor &color) const;
+    void shareWithTree();
     /// Shows the colour in viewer, spectra, inputs and the hex field.
     void showColor(const ZelColor &color, const QObject *except = nullptr);
-    void showName();
+    /// Shows the name of the colour if it isn't the former one any more.
+    void showNewName(const std::string &former);
     void updateHex(const ZelColor &color);
     void emitColorChanged(const zelsg::Color &color, bool cancelled);
     void beforeShowFirstTime();

@@ -12,6 +12,7 @@
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelEyeDropper>
+#include <ZelWidgets/ZelFontMetrics>
 #include <ZelWidgets/ZelIntegerSliderEdit>
 #include <ZelWidgets/ZelListWithAddition>
 #include <ZelWidgets/ZelMultiColorTreeView>
@@ -26,23 +27,28 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QStyle>
 
 namespace {
 
 constexpr int margin = 4;
 constexpr int captionSpacing = 2;
+/// As many sub-colours are seen at once, about.
+constexpr int treeRows = 6;
+
+// Everything gets its parent at once: with a style sheet, every change of parent costs dearly.
 
 QLabel *labelFor(QWidget *field, const QString &text)
 {
-    auto *label = new QLabel(text);
+    auto *label = new QLabel(text, field->parentWidget());
     label->setBuddy(field);
     field->setAccessibleName(text);
     return label;
 }
 
-ZelToolButton *button(const QString &icon, const QString &toolTip)
+ZelToolButton *button(QWidget *parent, const QString &icon, const QString &toolTip)
 {
-    auto *button = new ZelToolButton;
+    auto *button = new ZelToolButton(ZelToolButton::Flat, parent);
     button->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/") + icon));
     button->setToolTip(toolTip);
     return button;
@@ -54,6 +60,14 @@ QAction *checkable(QMenu *menu, const QString &text, bool isChecked)
     action->setCheckable(true);
     action->setChecked(isChecked);
     return action;
+}
+
+/// The sheet selects by the rank, and has looked at the button already.
+void setRank(QPushButton *button, const QString &rank)
+{
+    button->setProperty("rank", rank);
+    button->style()->unpolish(button);
+    button->style()->polish(button);
 }
 
 /// A stored index, 0 if there is no such entry.
@@ -73,19 +87,21 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
         storedValue(d_->colorSettings, QStringLiteral("enable_gamma_correction"), true);
     d_->spectrumIndex = storedIndex(d_->settings, QStringLiteral("spectrum"), 2);
     d_->color = color.detachedClone();
-    d_->shown = d_->color.getActive();
+    if (!name.isEmpty())
+        d_->color.setColorName(name.toStdString());
     d_->initialColor = color.detachedClone();
     d_->initialColor.setColorName((name.isEmpty() ? tr("Color") : name).toStdString());
     setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint);
     setWindowTitle(tr("Color Picker"));
-    setupViewer();
 
+    // The Tab key goes through the parts in the order in which they are made.
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addLayout(setupNameEdit());
     d_->nameEdit->setText(name);
     setupMultiColorList(library);
     layout->addWidget(d_->multiColorFrame);
+    setupViewer();
     layout->addWidget(d_->viewer);
     setupColorSpectrumWidgets();
     layout->addWidget(d_->spectrumStack, 1);
@@ -99,7 +115,7 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
     layout->addSpacing(4);
     layout->addWidget(setupButtonBox());
 
-    updateHex(d_->shown);
+    updateHex(d_->color.getActive());
     setMultiColorUI();
     setFocusPolicies();
     connect(d_->nameEdit, &QLineEdit::textChanged, this, &ZelColorDialog::nameChanged);
@@ -112,14 +128,14 @@ void ZelColorDialog::init(const zelsg::Color &color, QString name, ILibrary *lib
 
 void ZelColorDialog::setupViewer()
 {
-    d_->viewer = new ZelColorViewer(d_->shown, this);
+    d_->viewer = new ZelColorViewer(d_->color.getActive(), this);
     connect(d_->viewer, &ZelColorViewer::colorSelected, this, &ZelColorDialog::setColor);
     connect(d_->viewer, &ZelColorViewer::doubleClick, this, &ZelColorDialog::doubleClick);
 }
 
 QLayout *ZelColorDialog::setupNameEdit()
 {
-    d_->nameEdit = new QLineEdit;
+    d_->nameEdit = new QLineEdit(this);
     d_->nameLabel = labelFor(d_->nameEdit, tr("Name"));
     auto *row = new QHBoxLayout;
     row->addWidget(d_->nameLabel);
@@ -131,9 +147,9 @@ QLayout *ZelColorDialog::setupNameEdit()
 void ZelColorDialog::setupMultiColorList(ILibrary *library)
 {
     d_->multiColorFrame = new QWidget(this);
-    d_->multiColorTree = new ZelMultiColorTreeView(library);
+    d_->multiColorTree = new ZelMultiColorTreeView(library, d_->multiColorFrame);
+    d_->multiColorTree->setMaximumHeight(ZelFontMetrics(this).editorHeight() * treeRows);
     d_->multiColorTree->setAccessibleName(tr("Sub-colors"));
-    d_->multiColorTree->setColor(d_->color);
     d_->multiColorList =
         new ZelListWithAddition(tr("Sub-colors"), tr("Add a sub-color"), d_->multiColorTree);
     d_->multiColorList->setContentsMargins(0, 0, 0, 0);
@@ -148,10 +164,11 @@ void ZelColorDialog::setupMultiColorList(ILibrary *library)
 
 void ZelColorDialog::setupColorSpectrumWidgets()
 {
+    const ZelColor color = d_->color.getActive();
     d_->spectrumStack = new QStackedWidget(this);
-    auto *triangle = new ZelColorTriangle(d_->shown);
+    auto *triangle = new ZelColorTriangle(color, d_->spectrumStack);
     triangle->setAccessibleName(tr("Triadic color wheel"));
-    d_->spectra = {new ZelRGBSpectrumDisplay(d_->shown), triangle};
+    d_->spectra = {new ZelRGBSpectrumDisplay(color, d_->spectrumStack), triangle};
     for (ZelSpectrumDisplay *display : std::as_const(d_->spectra)) {
         connect(display, qOverload<ZelColor>(&ZelSpectrumDisplay::colorChanged), this,
                 &ZelColorDialog::setColor);
@@ -162,9 +179,9 @@ void ZelColorDialog::setupColorSpectrumWidgets()
 
 QLayout *ZelColorDialog::setupHexRow()
 {
-    setupButtons();
     auto *row = new QHBoxLayout;
     row->addLayout(setupHexValueEdit());
+    setupButtons();
     row->addStretch();
     for (ZelToolButton *each :
          {d_->pickButton, d_->saveToLibraryButton, d_->multiColorButton, d_->configButton})
@@ -174,7 +191,7 @@ QLayout *ZelColorDialog::setupHexRow()
 
 QLayout *ZelColorDialog::setupHexValueEdit()
 {
-    d_->hexEdit = new HexValueLineEdit;
+    d_->hexEdit = new HexValueLineEdit(this);
     d_->hexEdit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     connect(d_->hexEdit, &QLineEdit::editingFinished, this, &ZelColorDialog::hexValueEdited);
     connect(d_->hexEdit, &HexValueLineEdit::colorPasted, this, &ZelColorDialog::takeDisplayColor);
@@ -187,22 +204,22 @@ QLayout *ZelColorDialog::setupHexValueEdit()
 
 void ZelColorDialog::setupButtons()
 {
-    d_->pickButton = button(QStringLiteral("eyedropper"), tr("Pick a color"));
+    d_->pickButton = button(this, QStringLiteral("eyedropper"), tr("Pick a color"));
     updatePickButton();
     connect(d_->pickButton, &QAbstractButton::clicked, this, &ZelColorDialog::pickMode);
 
-    d_->saveToLibraryButton = button(QStringLiteral("save"), tr("Save color to library"));
+    d_->saveToLibraryButton = button(this, QStringLiteral("save"), tr("Save color to library"));
     d_->saveToLibraryButton->hide();
     connect(d_->saveToLibraryButton, &QAbstractButton::clicked, this,
             &ZelColorDialog::saveToLibrary);
 
-    d_->multiColorButton = button(QStringLiteral("multi_color"), QString());
+    d_->multiColorButton = button(this, QStringLiteral("multi_color"), QString());
     d_->multiColorButton->setCheckable(true);
     d_->multiColorButton->hide();
     connect(d_->multiColorButton, &QAbstractButton::clicked, this,
             &ZelColorDialog::toggleMultiColor);
 
-    d_->configButton = button(QStringLiteral("settings_dropdown"), tr("Configurations"));
+    d_->configButton = button(this, QStringLiteral("settings_dropdown"), tr("Configurations"));
     d_->configButton->setPopupMode(QToolButton::InstantPopup);
     d_->configButton->setPaintMenuArrow(false);
     setupConfigMenu();
@@ -238,17 +255,17 @@ void ZelColorDialog::setupConfigMenu()
 
 QLayout *ZelColorDialog::setupColorSpaceInputLayout()
 {
-    d_->colorSpaceCombo = new ZelComboBox;
-    d_->inputStack = new QStackedWidget;
+    d_->colorSpaceCombo = new ZelComboBox(this);
+    d_->inputStack = new QStackedWidget(this);
     d_->inputStack->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    const ZelColor &color = d_->shown;
+    const ZelColor color = d_->color.getActive();
     const bool gamma = d_->gammaInput;
-    addColorSpaceInput(tr("RGB"), new ZelRGBColorInput(color, gamma));
-    addColorSpaceInput(tr("CMYK"), new ZelCMYKColorInput(color, gamma));
-    addColorSpaceInput(tr("HSV"), new ZelHSVColorInput(color, gamma));
-    addColorSpaceInput(tr("Grayscale"), new ZelGrayColorInput(color, gamma));
-    addColorSpaceInput(tr("CIE-L*ab"), new ZelCIELABColorInput(color, gamma));
-    addColorSpaceInput(tr("Kelvin"), new ZelTemperatureColorInput(color, gamma));
+    addColorSpaceInput(tr("RGB"), new ZelRGBColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("CMYK"), new ZelCMYKColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("HSV"), new ZelHSVColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("Grayscale"), new ZelGrayColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("CIE-L*ab"), new ZelCIELABColorInput(color, gamma, d_->inputStack));
+    addColorSpaceInput(tr("Kelvin"), new ZelTemperatureColorInput(color, gamma, d_->inputStack));
     setColorInputIndex(storedIndex(d_->settings, QStringLiteral("slider"), int(d_->inputs.size())));
     connect(d_->colorSpaceCombo, &QComboBox::activated, d_->inputStack,
             &QStackedWidget::setCurrentIndex);
@@ -278,6 +295,7 @@ void ZelColorDialog::setupTransparency()
 {
     d_->transparencySlider =
         new ZelIntegerSliderEdit(tr("Transparency"), 0, 100, &d_->transparency, 0, 100);
+    d_->transparencySlider->setParent(this);
     d_->transparencySlider->setSuffix(QStringLiteral("%"));
     d_->transparencySlider->hide();
     connect(d_->transparencySlider, &ZelIntegerSliderEdit::valueUpdated, this,
@@ -288,7 +306,7 @@ void ZelColorDialog::setupTransparency()
 
 QLayout *ZelColorDialog::setupColorSwatchList()
 {
-    d_->swatchList = new ZelColorSwatchListView;
+    d_->swatchList = new ZelColorSwatchListView(this);
     d_->swatchList->setAccessibleName(tr("Color Swatches"));
     auto *list = new ZelListWithAddition(tr("Color Swatches"),
                                          tr("Add picked color to swatch list"), d_->swatchList);
@@ -302,9 +320,9 @@ QLayout *ZelColorDialog::setupColorSwatchList()
 
 QWidget *ZelColorDialog::setupButtonBox()
 {
-    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    box->button(QDialogButtonBox::Ok)->setProperty("rank", QStringLiteral("Primary"));
-    box->button(QDialogButtonBox::Cancel)->setProperty("rank", QStringLiteral("Tertiary"));
+    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    setRank(box->button(QDialogButtonBox::Ok), QStringLiteral("Primary"));
+    setRank(box->button(QDialogButtonBox::Cancel), QStringLiteral("Tertiary"));
     connect(box, &QDialogButtonBox::accepted, this, &ZelColorDialog::accept);
     connect(box, &QDialogButtonBox::rejected, this, &ZelColorDialog::reject);
     return box;

@@ -41,8 +41,12 @@ QSizeF toInches(QSize pixels, Density density)
 
 QSize windowSize(QSizeF inches, Density density, QSize hint, QSize area)
 {
-    if (!isUsable(inches))
-        return {qRound(hint.width() * firstGrowth), qRound(hint.height() * firstGrowth)};
+    if (!isUsable(inches)) {
+        const QSize grown(qRound(hint.width() * firstGrowth), qRound(hint.height() * firstGrowth));
+        const QSize room = area - QSize(rightMargin, titleBarHeight + bottomMargin);
+        const bool fits = hint.expandedTo(room) == room;
+        return fits ? grown.boundedTo(room) : grown;
+    }
     const QSizeF pixels(inches.width() * density.x, inches.height() * density.y);
     QSize size = pixels.boundedTo({largest, largest}).toSize();
     if (!area.isEmpty())

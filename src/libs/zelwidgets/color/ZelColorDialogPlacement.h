@@ -21,8 +21,9 @@ struct Density
 /// Of a screen that doesn't know, or of none, 96.
 Density densityOf(const QScreen *screen);
 QSizeF toInches(QSize pixels, Density density);
-/// An unusable stored size gives a quarter more than the hint. No window is smaller than the hint;
-/// else none is larger than the area, if there is one.
+/// An unusable stored size gives a quarter more than the hint, or less if that leaves the window
+/// whole on the area. No window is smaller than the hint; else none is larger than the area, if
+/// there is one.
 QSize windowSize(QSizeF inches, Density density, QSize hint, QSize area);
 /// The place for a window that would lie there, moved so that its right and lower edges are on the
 /// area; null is no area.

@@ -39,8 +39,6 @@ public:
     /// The tree works on this very object.
     zelsg::Color color;
     zelsg::Color initialColor;
-    /// What the widgets show. It isn't the active colour if that has just been changed in the tree.
-    ZelColor shown;
     bool gammaInput = true;
     bool gammaDisplay = true;
     int spectrumIndex = 0;

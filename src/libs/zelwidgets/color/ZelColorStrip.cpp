@@ -1,12 +1,11 @@
 #include "color/ZelColorStrip.h"
 
+#include "color/ZelChannelBytes.h"
+
 #include <ZelCore/ZelColorMath>
 #include <ZelCore/ZelGammaPolicy>
 
 #include <array>
-#include <bit>
-#include <cmath>
-#include <cstdint>
 #include <limits>
 
 using ZelColorChannel::Mode;
@@ -24,70 +23,17 @@ constexpr float opponentStart = -128.0f;
 constexpr float byteStep = 0.003921569f;
 constexpr float percentStep = 0.01f;
 
-/// The byte of each channel from 0 to 1 raised to an exponent: exactly what std::pow() and
-/// truncation give, from a table of the least channel of each byte.
-class RaisedBytes
-{
-public:
-    explicit RaisedBytes(float exponent)
-        : exponent_(exponent)
-    {
-        for (uint byte = 0; byte < least_.size(); ++byte)
-            least_[byte] = leastOf(byte);
-        for (uint i = 0; i < first_.size(); ++i)
-            first_[i] = uchar(raised(float(i) / float(parts)));
-    }
-
-    float exponent() const { return exponent_; }
-
-    uchar of(float channel) const
-    {
-        uint byte = first_[uint(channel * float(parts))];
-        while (byte < 255 && least_[byte + 1] <= channel)
-            ++byte;
-        return uchar(byte);
-    }
-
-private:
-    static constexpr uint parts = 4096;
-
-    uint raised(float channel) const { return uint(std::pow(channel, exponent_) * 255.0f); }
-
-    /// Floats from 0 to 1 are ordered as their bits are.
-    float leastOf(uint byte) const
-    {
-        uint32_t below = 0;
-        uint32_t enough = std::bit_cast<uint32_t>(1.0f);
-        while (below < enough) {
-            const uint32_t middle = (below + enough) / 2;
-            if (raised(std::bit_cast<float>(middle)) >= byte)
-                enough = middle;
-            else
-                below = middle + 1;
-        }
-        return std::bit_cast<float>(enough);
-    }
-
-    float exponent_;
-    std::array<float, 256> least_;
-    std::array<uchar, parts + 1> first_;
-};
-
-const RaisedBytes &raisedBytes(float exponent)
-{
-    thread_local RaisedBytes bytes(exponent);
-    if (bytes.exponent() != exponent)
-        bytes = RaisedBytes(exponent);
-    return bytes;
-}
-
 /// Turns colours into bytes. A channel that stays as it was in the sample before, as most do along
 /// a strip, is not looked up again.
 class Encoder
 {
 public:
+    /// For RGB colours.
     explicit Encoder(float exponent)
-        : raised_(exponent == 1.0f ? nullptr : &raisedBytes(exponent))
+        : bytesOf_(exponent == 1.0f ? nullptr : &ZelChannelBytes::raised(exponent))
+    {}
+    explicit Encoder(const ZelChannelBytes &bytesOf)
+        : bytesOf_(&bytesOf)
     {}
 
     void write(const Triple &rgb, uchar *pixel)
@@ -104,24 +50,24 @@ public:
 private:
     uchar byte(float channel) const
     {
-        const float shown = channel > 0.0f ? std::min(channel, 1.0f) : 0.0f;
-        return raised_ ? raised_->of(shown) : uchar(shown * 255.0f);
+        if (bytesOf_)
+            return bytesOf_->of(channel);
+        return channel > 0.0f ? uchar(std::min(channel, 1.0f) * 255.0f) : uchar(0);
     }
 
     static constexpr float none = std::numeric_limits<float>::quiet_NaN();
-    const RaisedBytes *raised_;
+    const ZelChannelBytes *bytesOf_;
     Triple channels_ = {none, none, none};
     std::array<uchar, 3> bytes_ = {};
 };
 
 /// The last sample is repeated where the strip is wider than there are samples.
 template <typename Sample>
-QImage strip(int width, int samples, float exponent, Sample &&sample)
+QImage strip(int width, int samples, Encoder encoder, Sample &&sample)
 {
     QImage image(width, 1, QImage::Format_RGB888);
     if (image.isNull())
         return image;
-    Encoder encoder(exponent);
     uchar *pixel = image.scanLine(0);
     for (int i = 0; i < width; ++i, pixel += 3)
         encoder.write(sample(std::min(i, samples - 1)), pixel);
@@ -130,7 +76,7 @@ QImage strip(int width, int samples, float exponent, Sample &&sample)
 
 QImage channelStrip(const Triple &rgb, size_t index, float exponent)
 {
-    return strip(byteSamples, byteSamples, exponent, [&](int i) {
+    return strip(byteSamples, byteSamples, Encoder(exponent), [&](int i) {
         const float value = float(i) * byteStep;
         return Triple{index == 0 ? value : rgb[0], index == 1 ? value : rgb[1],
                       index == 2 ? value : rgb[2]};
@@ -139,7 +85,7 @@ QImage channelStrip(const Triple &rgb, size_t index, float exponent)
 
 QImage hueStrip(Triple hsv, float exponent)
 {
-    return strip(hueSamples, hueSamples, exponent, [&](int i) {
+    return strip(hueSamples, hueSamples, Encoder(exponent), [&](int i) {
         hsv[0] = float(i);
         return ZelColorMath::hsvToRgb(hsv);
     });
@@ -147,7 +93,7 @@ QImage hueStrip(Triple hsv, float exponent)
 
 QImage hsvStrip(Triple hsv, size_t index, float exponent)
 {
-    return strip(percentSamples, percentSamples, exponent, [&](int i) {
+    return strip(percentSamples, percentSamples, Encoder(exponent), [&](int i) {
         hsv[index] = float(i) * percentStep;
         return ZelColorMath::hsvToRgb(hsv);
     });
@@ -155,7 +101,7 @@ QImage hsvStrip(Triple hsv, size_t index, float exponent)
 
 QImage inkStrip(const Quad &cmyk, size_t index, float exponent)
 {
-    return strip(percentSamples, percentSamples, exponent, [&](int i) {
+    return strip(percentSamples, percentSamples, Encoder(exponent), [&](int i) {
         const float ink = float(i) * percentStep;
         return ZelColorMath::cmykToRgb({index == 0 ? ink : cmyk[0], index == 1 ? ink : cmyk[1],
                                         index == 2 ? ink : cmyk[2], index == 3 ? ink : cmyk[3]});
@@ -164,7 +110,7 @@ QImage inkStrip(const Quad &cmyk, size_t index, float exponent)
 
 QImage greyStrip(float exponent)
 {
-    return strip(byteSamples, byteSamples, exponent, [](int i) {
+    return strip(byteSamples, byteSamples, Encoder(exponent), [](int i) {
         const float grey = float(i) * byteStep;
         return Triple{grey, grey, grey};
     });
@@ -175,9 +121,10 @@ QImage labStrip(Triple lab, size_t index, float exponent)
     const bool isLightness = index == 0;
     const float start = isLightness ? 0.0f : opponentStart;
     return strip(isLightness ? percentSamples : byteSamples,
-                 isLightness ? percentSamples : opponentSamples, exponent, [&](int i) {
+                 isLightness ? percentSamples : opponentSamples,
+                 Encoder(ZelChannelBytes::encoded(exponent)), [&](int i) {
                      lab[index] = start + float(i);
-                     return ZelColorMath::xyzToRgb(ZelColorMath::labToXyz(lab));
+                     return ZelColorMath::xyzToLight(ZelColorMath::labToXyz(lab));
                  });
 }
 
@@ -203,7 +150,8 @@ QImage temperatureStrip(Range range, float exponent)
         known = range;
         colors = radiated(range);
     }
-    return strip(percentSamples, percentSamples, exponent, [](int i) { return colors[size_t(i)]; });
+    return strip(percentSamples, percentSamples, Encoder(exponent),
+                 [](int i) { return colors[size_t(i)]; });
 }
 
 } // namespace
@@ -234,7 +182,7 @@ QImage ZelColorStrip::image(Mode mode, const ZelColor &color, float exponent, Ra
     case Mode::Temperature:
         return temperatureStrip(temperatures, exponent);
     }
-    return strip(1, 1, exponent, [rgb = color.toRGB()](int) { return rgb; });
+    return strip(1, 1, Encoder(exponent), [rgb = color.toRGB()](int) { return rgb; });
 }
 
 QImage ZelColorStrip::hues(float exponent)

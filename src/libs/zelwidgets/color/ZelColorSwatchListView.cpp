@@ -1,18 +1,23 @@
 #include "color/ZelColorSwatchListView.h"
 
+#include "ZelDeleteEventFilter.h"
 #include "ZelMenu.h"
 #include "ZelMessageBox.h"
 #include "color/ColorSwatchModel.h"
 #include "color/ZelColorConversion.h"
 #include "color/ZelColorMime.h"
+#include "color/ZelSwatchAccessible.h"
 #include "color/ZelSwatchFile.h"
 
 #include <ZelCore/ZelGammaPolicy>
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QHelpEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <QToolTip>
 
 namespace {
@@ -20,17 +25,32 @@ namespace {
 constexpr double iconHeights = 1.5;
 constexpr int shownRows = 4;
 
-QString described(const ZelColor &color)
-{
-    const QString number = toDisplayQColor(color).name();
-    const QString name = QString::fromStdString(color.name());
-    return name.isEmpty() ? number : name + QStringLiteral(", ") + number;
-}
-
 QString fileFilter()
 {
     return ZelColorSwatchListView::tr("Palettes (*.gpl);;All files (*)");
 }
+
+/// Draws an edge round the colours, so that each is seen on any ground.
+class SwatchDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem shown(option);
+        initStyleOption(&shown, index);
+        const QStyle *style = option.widget ? option.widget->style() : QApplication::style();
+        const QRect place =
+            style->subElementRect(QStyle::SE_ItemViewItemDecoration, &shown, option.widget);
+        painter->save();
+        painter->setPen(Qt::gray);
+        painter->drawRect(place.adjusted(0, 0, -1, -1));
+        painter->restore();
+    }
+};
 
 } // namespace
 
@@ -38,7 +58,9 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     : QListView(parent)
     , model_(new ColorSwatchModel(this))
 {
+    ZelSwatchAccessible::installFactory();
     setModel(model_);
+    setItemDelegate(new SwatchDelegate(this));
     setViewMode(QListView::IconMode);
     setMovement(QListView::Static);
     setWrapping(true);
@@ -52,6 +74,8 @@ ZelColorSwatchListView::ZelColorSwatchListView(QWidget *parent)
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setAccessibleName(tr("Color Swatches"));
     updateIconSize();
+    connect(new ZelDeleteEventFilter(this), &ZelDeleteEventFilter::deletePressed, this,
+            &ZelColorSwatchListView::deleteSelected);
     connect(this, &QAbstractItemView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT colorChanged(model_->color(index.row())); });
     connect(this, &QAbstractItemView::doubleClicked, this,
@@ -98,6 +122,12 @@ void ZelColorSwatchListView::deleteSelected()
     for (const QModelIndex &index : selected)
         rows.push_back(index.row());
     model_->removeColors(std::move(rows));
+}
+
+void ZelColorSwatchListView::pick(const QModelIndex &index)
+{
+    setCurrentIndex(index);
+    Q_EMIT colorChanged(model_->color(index.row()));
 }
 
 /// The entry of a selected row stands for the whole selection.
@@ -172,13 +202,6 @@ void ZelColorSwatchListView::changeEvent(QEvent *event)
         updateIconSize();
 }
 
-void ZelColorSwatchListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
-{
-    QListView::currentChanged(current, previous);
-    setAccessibleDescription(current.isValid() ? described(model_->color(current.row()))
-                                               : QString());
-}
-
 void ZelColorSwatchListView::dragEnterEvent(QDragEnterEvent *event)
 {
     dragMoveEvent(event);
@@ -207,14 +230,10 @@ void ZelColorSwatchListView::keyPressEvent(QKeyEvent *event)
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool isPick = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                         event->key() == Qt::Key_Space;
-    if (isPlain && isPick && index.isValid()) {
-        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
-        Q_EMIT colorChanged(model_->color(index.row()));
-    } else if (event->matches(QKeySequence::Delete)) {
-        deleteSelected();
-    } else {
+    if (isPlain && isPick && index.isValid())
+        pick(index);
+    else
         QListView::keyPressEvent(event);
-    }
 }
 
 bool ZelColorSwatchListView::viewportEvent(QEvent *event)
@@ -223,7 +242,7 @@ bool ZelColorSwatchListView::viewportEvent(QEvent *event)
         return QListView::viewportEvent(event);
     const auto *help = static_cast<QHelpEvent *>(event);
     const QModelIndex index = indexAt(help->pos());
-    const QString text = index.isValid() ? described(model_->color(index.row())) : QString();
+    const QString text = index.isValid() ? model_->text(index.row()) : QString();
     QToolTip::showText(help->globalPos(), text.toHtmlEscaped(), viewport(), visualRect(index));
     return true;
 }

@@ -25,6 +25,9 @@ public:
     /// Appends the colour with its name and scrolls to it.
     void addColor(const ZelColor &color);
 
+    /// Makes the row the current and only selected one, and emits its colour, as a click does.
+    void pick(const QModelIndex &index);
+
     /// Appends the colours of a palette file (.gpl), and writes all to one, as they are shown. What
     /// went wrong is given back as a text for the user, empty if nothing did.
     QString importPalette(const QString &fileName);
@@ -48,7 +51,6 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
-    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;

@@ -36,6 +36,7 @@ ZelColorViewer::ZelColorViewer(const ZelColor &color, QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     old_ = addField(tr("Old"), color);
     new_ = addField(tr("New"), color);
+    old_->setAcceptDrops(false);
     row->addStretch();
 }
 

@@ -29,7 +29,7 @@ public Q_SLOTS:
     void setColor(ZelColor color);
 
 Q_SIGNALS:
-    /// The user clicked the old or the new colour.
+    /// The user clicked the old or the new colour, or dropped a new one.
     void colorSelected(ZelColor color);
     void doubleClick(ZelColor color);
 

@@ -4,59 +4,31 @@
 #include "color/ZelCheckerBrush.h"
 #include "color/ZelColorConversion.h"
 #include "color/ZelColorDialog.h"
-#include "color/ZelColorMime.h"
-#include "color/ZelColorText.h"
 #include "color/ZelColorWidgetAccessible.h"
 #include "color/ZelColorWidgetPrivate.h"
 #include "theme/ZelStyleIcon.h"
 
 #include <ZelCore/ZelGammaPolicy>
-#include <ZelDeliveryManager/ZelFeatureFlags>
 
-#include <QApplication>
-#include <QDrag>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
-
-#include <algorithm>
 
 namespace {
 
 constexpr float opaqueFrom = 0.99f;
 constexpr double disabledOpacity = 0.4;
-constexpr QSize dragPictureSize(32, 20);
-
-bool areMultiColorsEnabled()
-{
-    return orv::cdm::isFeatureEnabled("multi_colors", false);
-}
-
-QString nameOf(const zelsg::Color &color)
-{
-    return QString::fromStdString(color.getColorName());
-}
-
-std::optional<zelsg::Color> colorOf(const QMimeData *data)
-{
-    if (areMultiColorsEnabled() && ZelColorMime::hasMultiColor(data)) {
-        if (auto list = ZelColorMime::multiColor(data))
-            return list;
-    }
-    if (const auto color = ZelColorMime::color(data))
-        return zelsg::Color(*color);
-    return {};
-}
-
-const QIcon &overlay()
-{
-    static const ZelStyleIcon icon(QStringLiteral(":ui/icons/multicolor_overlay_label"));
-    return icon;
-}
 
 } // namespace
+
+/// Read once it is seen; few fields ever wear it.
+const QIcon &ZelColorWidgetPrivate::overlay()
+{
+    if (!overlay_)
+        overlay_ = ZelStyleIcon(QStringLiteral(":ui/icons/multicolor_overlay_label"));
+    return *overlay_;
+}
 
 ZelColorWidget::ZelColorWidget(const zelsg::Color &color, const QSize &size, bool opensDialog,
                                QWidget *parent)
@@ -67,7 +39,7 @@ ZelColorWidget::ZelColorWidget(const zelsg::Color &color, const QSize &size, boo
     d_->color = color.detachedClone();
     d_->active = d_->color.getActive();
     d_->opensDialog = opensDialog;
-    setToolTip(nameOf(d_->color));
+    showName();
     setFixedSize(size);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -144,8 +116,15 @@ void ZelColorWidget::setLibrary(ILibrary *library)
 
 void ZelColorWidget::setToolTip(const QString &text)
 {
+    d_->isNamedByColor = false;
     d_->label = text;
     QWidget::setToolTip(text);
+}
+
+void ZelColorWidget::showName()
+{
+    setToolTip(QString::fromStdString(d_->color.getColorName()));
+    d_->isNamedByColor = true;
 }
 
 void ZelColorWidget::setBorderActive(bool active)
@@ -165,6 +144,7 @@ void ZelColorWidget::showColorDialog()
     }
     delete d_->dialog;
     d_->dialog = new ZelColorDialog(this, d_->color, d_->label, d_->library);
+    d_->firstAlpha = d_->alpha;
     setupDialog();
     setBorderActive(true);
     d_->dialog->show();
@@ -176,7 +156,7 @@ void ZelColorWidget::setupDialog()
     dialog->showKelvinAsDefaultColorInput(d_->showKelvin);
     if (d_->includeSaveButton)
         dialog->showSaveToLibraryButton();
-    if (areMultiColorsEnabled() && d_->makeMultiColorEnabled)
+    if (ZelColorWidgetPrivate::areMultiColorsEnabled() && d_->makeMultiColorEnabled)
         dialog->showMakeMultiColorButton();
     if (d_->hasAlpha)
         dialog->setTransparency(d_->alpha);
@@ -186,6 +166,7 @@ void ZelColorWidget::setupDialog()
     connect(dialog, &ZelColorDialog::colorChanged, this, &ZelColorWidget::setColorFromDialog);
     connect(dialog, &QDialog::accepted, this, &ZelColorWidget::editingFinished);
     connect(dialog, &ZelColorDialog::saveColorToLibrary, this, &ZelColorWidget::saveColorToLibrary);
+    connect(dialog, &QDialog::rejected, this, &ZelColorWidget::restoreAlpha);
     connect(dialog, &QDialog::finished, this, &ZelColorWidget::dialogFinished);
 }
 
@@ -196,6 +177,16 @@ void ZelColorWidget::dialogFinished()
     if (d_->dialog)
         d_->dialog->deleteLater();
     d_->dialog.clear();
+}
+
+/// The dialog gives its first colour back, but not the alpha.
+void ZelColorWidget::restoreAlpha()
+{
+    if (d_->alpha == d_->firstAlpha)
+        return;
+    d_->alpha = d_->firstAlpha;
+    updateFillBrush();
+    Q_EMIT colorUpdated(d_->color);
 }
 
 void ZelColorWidget::cancelColorDialog()
@@ -214,7 +205,7 @@ void ZelColorWidget::setColorFromDialog(const zelsg::Color &col, bool cancelled)
         d_->alpha = d_->dialog->getQColor().alphaF();
     d_->picture = {};
     updateFillBrush();
-    setToolTip(nameOf(d_->color));
+    showName();
     Q_EMIT colorUpdated(d_->color);
 }
 
@@ -237,7 +228,8 @@ void ZelColorWidget::take(const zelsg::Color &color)
     d_->active = color.getActive();
     d_->picture = {};
     updateFillBrush();
-    setToolTip(nameOf(color));
+    if (d_->isNamedByColor)
+        showName();
     if (d_->dialog && !d_->dialog->isHidden())
         d_->dialog->setColorNoSignal(color);
 }
@@ -282,7 +274,7 @@ void ZelColorWidget::paintEvent(QPaintEvent *event)
         else
             painter.drawPixmap(area, d_->picture);
         if (d_->color.isMultiColor())
-            overlay().paint(&painter, area, Qt::AlignRight | Qt::AlignBottom);
+            d_->overlay().paint(&painter, area, Qt::AlignRight | Qt::AlignBottom);
     }
     if (hasFocus())
         ZelFocusFrame::paint(this);
@@ -334,54 +326,4 @@ void ZelColorWidget::mouseDoubleClickEvent(QMouseEvent *event)
     Q_UNUSED(event)
     d_->pressed.reset();
     Q_EMIT doubleClicked(d_->active);
-}
-
-void ZelColorWidget::mouseMoveEvent(QMouseEvent *event)
-{
-    if (!(event->buttons() & Qt::LeftButton) || !d_->pressed)
-        return;
-    const QPoint way = event->position().toPoint() - *d_->pressed;
-    if (way.manhattanLength() >= QApplication::startDragDistance())
-        startDrag();
-}
-
-void ZelColorWidget::startDrag()
-{
-    d_->pressed.reset();
-    auto *data = new QMimeData;
-    ZelColorMime::encode(d_->color, data);
-    const qreal ratio = devicePixelRatioF();
-    QPixmap picture((QSizeF(dragPictureSize) * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(toDisplayQColor(d_->active));
-    {
-        QPainter painter(&picture);
-        painter.setPen(palette().color(QPalette::Text));
-        painter.drawRect(QRect(QPoint(0, 0), dragPictureSize).adjusted(0, 0, -1, -1));
-    }
-    auto *drag = new QDrag(this);
-    drag->setMimeData(data);
-    drag->setPixmap(picture);
-    drag->exec(Qt::CopyAction);
-}
-
-void ZelColorWidget::dragEnterEvent(QDragEnterEvent *event)
-{
-    const QMimeData *data = event->mimeData();
-    const bool isColor = ZelColorMime::hasColor(data) ||
-                         (areMultiColorsEnabled() && ZelColorMime::hasMultiColor(data));
-    if (isColor && event->source() != this)
-        event->acceptProposedAction();
-    else
-        event->ignore();
-}
-
-void ZelColorWidget::dropEvent(QDropEvent *event)
-{
-    const std::optional<zelsg::Color> color = colorOf(event->mimeData());
-    if (!color)
-        return event->ignore();
-    event->acceptProposedAction();
-    take(*color);
-    Q_EMIT colorUpdated(d_->color);
 }

@@ -57,7 +57,8 @@ public:
     void showKelvin();
     /// Handed on to the dialog; may be null, and must outlive the field otherwise.
     void setLibrary(ILibrary *library);
-    /// The text is the dialog's name of the colour as well.
+    /// The text is the dialog's name of the colour as well. Both are the colour's own name until
+    /// this is called, and again once the user has changed the colour in the dialog.
     void setToolTip(const QString &text);
     /// Sets the property "ActiveBorder", on which the style sheet draws the highlight.
     void setBorderActive(bool active);
@@ -69,7 +70,8 @@ public Q_SLOTS:
     void setActiveColor(ZelColor c);
     /// Emits nothing; an open dialog follows.
     void setColor(zelsg::Color c);
-    /// Shows a picture until the next colour comes; a null one brings the colour back.
+    /// Shows a picture, fitted to the field, until the next colour comes; a null one brings the
+    /// colour back.
     void setPixmap(QPixmap px);
     /// Closes the dialog as its Cancel button does.
     void cancelColorDialog();
@@ -103,6 +105,8 @@ private:
     void setColorFromDialog(const zelsg::Color &col, bool cancelled);
     void setupDialog();
     void dialogFinished();
+    void restoreAlpha();
+    void showName();
     void take(const zelsg::Color &color);
     void activate();
     void startDrag();

@@ -1,6 +1,7 @@
 #include "color/ZelEyeDropper.h"
 
 #include "color/ZelColorConversion.h"
+#include "color/ZelCursorPlace.h"
 #include "color/ZelLoupe.h"
 #include "color/ZelScreenGrabber.h"
 #include "color/ZelScreenSample.h"
@@ -19,6 +20,7 @@
 #include <QWindow>
 
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -58,11 +60,6 @@ QCursor cross()
     return QCursor(picture, middle, middle);
 }
 
-QPoint floored(const QPointF &place)
-{
-    return {int(std::floor(place.x())), int(std::floor(place.y()))};
-}
-
 QPoint stepOf(int key)
 {
     switch (key) {
@@ -89,6 +86,8 @@ public:
     QPointF place;
     ZelScreenSample sample;
     bool isFollowing = false;
+    /// Where a key has sent the cursor, short of the place by less than a pixel of the desktop.
+    std::optional<QPoint> sentTo;
     bool hasMouse = false;
 };
 
@@ -101,7 +100,7 @@ ZelEyeDropper::ZelEyeDropper(QWidget *parent)
     const int valueHeight = 5 * fontMetrics().height() / 2;
     setFixedSize(ZelLoupe::side + 2 * frame, ZelLoupe::side + valueHeight + 2 * frame);
     d_->timer.setInterval(followInterval);
-    connect(&d_->timer, &QTimer::timeout, this, [this] { follow(QCursor::pos()); });
+    connect(&d_->timer, &QTimer::timeout, this, [this] { followCursor(); });
 }
 
 ZelEyeDropper::~ZelEyeDropper()
@@ -176,18 +175,26 @@ void ZelEyeDropper::askDesktop()
     });
 }
 
+/// For moves that no event tells of, and for pictures that change. The cursor's place is rounded,
+/// so one that is near says nothing new of a place between the pixels of the desktop.
+void ZelEyeDropper::followCursor()
+{
+    const QPointF cursor = QCursor::pos();
+    const QPointF way = cursor - d_->place;
+    const bool isNear = std::abs(way.x()) < 1 && std::abs(way.y()) < 1;
+    follow(isNear ? d_->place : cursor);
+}
+
 void ZelEyeDropper::follow(const QPointF &place)
 {
-    // The cursor has whole places only, which say nothing new of a place between them.
-    if (QPointF(floored(d_->place)) != place)
-        d_->place = place;
+    d_->place = place;
     // Only a window that is on the screen can have the mouse.
     if (d_->isFollowing && !d_->hasMouse && windowHandle() && windowHandle()->isExposed()) {
         d_->hasMouse = true;
         grabMouse();
         grabKeyboard();
     }
-    QScreen *screen = QGuiApplication::screenAt(floored(d_->place));
+    QScreen *screen = ZelCursorPlace::screenAt(d_->place);
     if (!screen)
         return;
     const QRect area = screen->geometry();
@@ -195,7 +202,7 @@ void ZelEyeDropper::follow(const QPointF &place)
     const QRect region = ZelScreenSample::regionAround(
         inside, area.size(), screen->devicePixelRatio(), ZelLoupe::pixels);
     d_->sample = ZelScreenSample(ZelScreenGrabber::instance().grab(screen, region), region, inside);
-    move(ZelLoupe::placeBeside(floored(d_->place), size(), area));
+    move(ZelLoupe::placeBeside(ZelCursorPlace::floored(d_->place), size(), area));
     update();
 }
 
@@ -220,27 +227,31 @@ void ZelEyeDropper::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return reject();
-    follow(event->globalPosition());
+    mouseMoveEvent(event);
     pick();
 }
 
 void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 {
-    follow(event->globalPosition());
+    const QPointF place = ZelCursorPlace::of(event);
+    if (d_->sentTo && QPointF(*d_->sentTo) == place)
+        return;
+    d_->sentTo.reset();
+    follow(place);
 }
 
 void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
 {
     const QPoint step = stepOf(event->key());
     if (!step.isNull()) {
-        const QScreen *screen = QGuiApplication::screenAt(floored(d_->place));
+        const QScreen *screen = QGuiApplication::screenAt(ZelCursorPlace::floored(d_->place));
         const int pixels = event->modifiers() & Qt::ShiftModifier ? longStep : 1;
         const QPointF place =
             d_->place + QPointF(step * pixels) / (screen ? screen->devicePixelRatio() : 1);
-        if (!QGuiApplication::screenAt(floored(place)))
+        if (!QGuiApplication::screenAt(ZelCursorPlace::floored(place)))
             return;
-        d_->place = place;
-        QCursor::setPos(floored(place));
+        d_->sentTo = ZelCursorPlace::floored(place);
+        QCursor::setPos(*d_->sentTo);
         follow(place);
     } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
                event->key() == Qt::Key_Enter) {

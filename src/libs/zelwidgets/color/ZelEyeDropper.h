@@ -46,6 +46,7 @@ private:
     void start();
     void stop();
     void askDesktop();
+    void followCursor();
     void follow(const QPointF &place);
     void pick();
     void select(const QColor &color);

@@ -1,9 +1,9 @@
 #include "color/ZelMultiColorListModel.h"
 
 #include "color/ZelColorConversion.h"
+#include "color/ZelColorIcons.h"
 #include "color/ZelColorMime.h"
 
-#include <QIcon>
 #include <QMimeData>
 #include <QPainter>
 #include <QPersistentModelIndex>
@@ -18,6 +18,7 @@ namespace {
 
 constexpr int ring = 20;
 constexpr int margin = 10;
+constexpr int largestIcon = 1000;
 
 /// Knows the row that is dragged, so that it moves when it is dropped on its own list.
 class SubColorData : public QMimeData
@@ -81,7 +82,10 @@ struct ZelMultiColorListModel::Parts
 
 ZelMultiColorListModel::ZelMultiColorListModel(QObject *parent)
     : QAbstractListModel(parent)
+    , icons_(std::make_unique<ZelColorIcons>())
 {}
+
+ZelMultiColorListModel::~ZelMultiColorListModel() = default;
 
 void ZelMultiColorListModel::setColor(const zelsg::Color &color)
 {
@@ -101,7 +105,8 @@ void ZelMultiColorListModel::reload()
 
 void ZelMultiColorListModel::setIconSize(int iconSize)
 {
-    iconSize_ = std::max(iconSize, ring + 1);
+    iconSize_ = std::clamp(iconSize, ring + 1, largestIcon);
+    icons_->clear();
     Q_EMIT dataChanged(index(0, IconColumn), index(rows_ - 1, IconColumn), {Qt::DecorationRole});
 }
 
@@ -218,7 +223,8 @@ QVariant ZelMultiColorListModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     if (index.column() == IconColumn && role == Qt::DecorationRole)
-        return QIcon(circle(toDisplayQColor(color_.getColor(index.row())), iconSize_));
+        return icons_->icon(toDisplayQColor(color_.getColor(index.row())),
+                            [this](const QColor &color) { return circle(color, iconSize_); });
     if (index.column() == NameColumn && (role == Qt::DisplayRole || role == Qt::EditRole))
         return QString::fromStdString(color_.getName(index.row()));
     return {};

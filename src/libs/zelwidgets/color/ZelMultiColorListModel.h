@@ -5,6 +5,8 @@
 
 #include <QAbstractListModel>
 
+#include <memory>
+
 /// The sub-colours of a colour that it shares with its owner: an icon in column 0, the name in
 /// column 1. What is edited here is edited in that colour.
 class ZELWIDGETS_EXPORT ZelMultiColorListModel : public QAbstractListModel
@@ -15,6 +17,7 @@ public:
     enum Column : int { IconColumn, NameColumn, ColumnCount };
 
     explicit ZelMultiColorListModel(QObject *parent = nullptr);
+    ~ZelMultiColorListModel() override;
 
     /// Shows this colour from now on, by the handle: what is done through the one shows in the
     /// other. An owner that assigns another colour to its variable calls this again.
@@ -23,7 +26,7 @@ public:
     /// To be called after the colour was changed through another handle.
     void reload();
 
-    /// Side of the icons' pixmap, 200 at first; at least 21.
+    /// Side of the icons' pixmap, 200 at first; 21 to 1000.
     int iconSize() const { return iconSize_; }
     void setIconSize(int iconSize);
 
@@ -73,4 +76,5 @@ private:
     int rows_ = 1;
     int iconSize_ = 200;
     bool isEditing_ = false;
+    std::unique_ptr<class ZelColorIcons> icons_;
 };

@@ -1,5 +1,6 @@
 #include "color/ZelMultiColorTreeView.h"
 
+#include "ZelDeleteEventFilter.h"
 #include "ZelMenu.h"
 #include "ZelMessageBox.h"
 #include "color/ZelMultiColorListModel.h"
@@ -9,7 +10,9 @@
 #include <ZelWidgets/ZelStyleIcon>
 
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QHeaderView>
+#include <QIcon>
 #include <QScopedValueRollback>
 
 namespace {
@@ -38,6 +41,8 @@ ZelMultiColorTreeView::ZelMultiColorTreeView(ILibrary *library, QWidget *parent)
     setDropIndicatorShown(true);
     setAccessibleName(tr("Sub-colors"));
     updateIconSize();
+    connect(new ZelDeleteEventFilter(this), &ZelDeleteEventFilter::deletePressed, this,
+            &ZelMultiColorTreeView::deleteCurrent);
     connect(model_, &ZelMultiColorListModel::edited, this, [this] {
         showActive();
         Q_EMIT colorChanged(color().getActive());
@@ -170,10 +175,21 @@ void ZelMultiColorTreeView::keyPressEvent(QKeyEvent *event)
 {
     const int row = currentIndex().row();
     const bool isUp = event->key() == Qt::Key_Up;
-    if (event->matches(QKeySequence::Delete))
-        deleteCurrent();
-    else if (event->modifiers() == Qt::AltModifier && (isUp || event->key() == Qt::Key_Down))
+    if (event->modifiers() == Qt::AltModifier && (isUp || event->key() == Qt::Key_Down))
         model_->moveColor(row, isUp ? row - 1 : row + 1);
     else
         QTreeView::keyPressEvent(event);
+}
+
+void ZelMultiColorTreeView::startDrag(Qt::DropActions supportedActions)
+{
+    const QModelIndex dragged = currentIndex().siblingAtColumn(ZelMultiColorListModel::IconColumn);
+    if (!dragged.isValid())
+        return;
+    // The colour alone: a picture of the row would cover the place where it is to be dropped.
+    auto *drag = new QDrag(this);
+    drag->setMimeData(model_->mimeData({dragged}));
+    const QIcon icon = dragged.data(Qt::DecorationRole).value<QIcon>();
+    drag->setPixmap(icon.pixmap(iconSize(), devicePixelRatioF()));
+    drag->exec(supportedActions, Qt::CopyAction);
 }

@@ -1,75 +1,16 @@
 #include "ZelSpectrumMath.h"
 
+#include "ZelChannelBytes.h"
+
 #include <ZelCore/ZelColorMath>
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <cmath>
-#include <cstdint>
-#include <limits>
 
 namespace {
 
 constexpr float byteRange = 255.0f;
 constexpr int darkest = 12800;
-
-int truncatedPower(float channel, float exponent)
-{
-    return int(std::pow(channel, exponent) * byteRange);
-}
-
-/// The bytes of a power function over 0 to 1 without a power for each: the numbers at which the
-/// byte rises are found once, and a number is compared with those near it.
-class PowerBytes
-{
-public:
-    explicit PowerBytes(float exponent)
-    {
-        for (int byte = 0; byte <= 255; ++byte)
-            rises_[std::size_t(byte)] = firstOf(byte, exponent);
-        rises_[256] = std::numeric_limits<float>::infinity();
-        std::size_t byte = 0;
-        for (std::size_t i = 0; i < starts_.size(); ++i) {
-            byte = raised(byte, float(i) / float(buckets));
-            starts_[i] = uchar(byte);
-        }
-    }
-
-    uchar operator()(float channel) const
-    {
-        return uchar(raised(starts_[std::size_t(channel * float(buckets))], channel));
-    }
-
-private:
-    static constexpr int buckets = 8192;
-
-    std::size_t raised(std::size_t byte, float channel) const
-    {
-        while (channel >= rises_[byte + 1])
-            ++byte;
-        return byte;
-    }
-
-    /// The smallest number that gives the byte or a larger one. Floats from 0 up are in the order
-    /// of their bits.
-    static float firstOf(int byte, float exponent)
-    {
-        std::uint32_t low = 0;
-        auto high = std::bit_cast<std::uint32_t>(1.0f);
-        while (low < high) {
-            const std::uint32_t middle = low + (high - low) / 2;
-            if (truncatedPower(std::bit_cast<float>(middle), exponent) >= byte)
-                high = middle;
-            else
-                low = middle + 1;
-        }
-        return std::bit_cast<float>(low);
-    }
-
-    std::array<float, 257> rises_;
-    std::array<uchar, buckets + 1> starts_;
-};
 
 using Factors = std::array<float, 3 * ZelSpectrumMath::planeSize>;
 
@@ -118,7 +59,8 @@ QImage ZelSpectrumMath::plane(float hue, float exponent)
     const Factors factors = columnFactors(hue);
     if (exponent == 1.0f)
         return imageOf(factors, [](float channel) { return uchar(int(channel * byteRange)); });
-    return imageOf(factors, PowerBytes(exponent));
+    const ZelChannelBytes &raised = ZelChannelBytes::raised(exponent);
+    return imageOf(factors, [&raised](float channel) { return raised.of(channel); });
 }
 
 ZelSpectrumMath::SaturationValue ZelSpectrumMath::at(QPointF point, QSize field)

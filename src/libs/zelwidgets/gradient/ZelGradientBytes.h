@@ -15,10 +15,8 @@ public:
     explicit ZelGradientBytes(float exponent);
 
     /// What is no number is 0.
-    static float clamped(float channel)
-    {
-        return channel > 0.0f ? (channel < 1.0f ? channel : 1.0f) : 0.0f;
-    }
+    static float atLeast0(float channel) { return 0.0f < channel ? channel : 0.0f; }
+    static float atMost1(float channel) { return channel < 1.0f ? channel : 1.0f; }
 
     /// Of a channel from 0 to 1.
     static int plain(float channel)

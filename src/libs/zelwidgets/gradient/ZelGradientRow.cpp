@@ -3,6 +3,7 @@
 #include "gradient/ZelGradientBytes.h"
 
 #include <algorithm>
+#include <cmath>
 
 using orv::color::BlendCurve;
 
@@ -85,61 +86,76 @@ private:
 using AlphaWalk = Walk<ZelGradientRow::AlphaStop, float>;
 using ColorWalk = Walk<ZelGradientRow::ColorStop, Rgb>;
 
-/// Some neighbouring pixels as clamped floats.
+/// Some neighbouring pixels on their way. The steps are loops of their own, none with more than one
+/// choice in it: so each becomes a loop of vector instructions.
 struct Block
 {
     static constexpr int size = 128;
-    std::array<float, size> red;
-    std::array<float, size> green;
-    std::array<float, size> blue;
-    std::array<float, size> alpha;
+    using Floats = std::array<float, size>;
+
+    size_t count;
+    Floats locations;
+    Floats weights;
+    Floats red;
+    Floats green;
+    Floats blue;
+    Floats alpha;
 };
 
-void evaluate(const AlphaWalk &alpha, const ColorWalk &color, int pixel, int count, float last,
-              Block &block)
+void locate(int pixel, float last, Block &block)
 {
-    const BlendCurve alphaCurve = alpha.curve();
-    const BlendCurve colorCurve = color.curve();
-    const float alphaFrom = alpha.from();
-    const float alphaRange = alpha.to() - alphaFrom;
-    const Rgb from = color.from();
-    const Rgb range = {color.to()[0] - from[0], color.to()[1] - from[1], color.to()[2] - from[2]};
-    for (int i = 0; i < count; ++i) {
-        const float t = locationOf(pixel + i, last);
-        const float blend = ZelGradientRow::weight(colorCurve, t);
-        const auto at = size_t(i);
-        block.red[at] = ZelGradientBytes::clamped(from[0] + range[0] * blend);
-        block.green[at] = ZelGradientBytes::clamped(from[1] + range[1] * blend);
-        block.blue[at] = ZelGradientBytes::clamped(from[2] + range[2] * blend);
-        block.alpha[at] = ZelGradientBytes::clamped(
-            alphaFrom + alphaRange * ZelGradientRow::weight(alphaCurve, t));
+    for (size_t i = 0; i < block.count; ++i)
+        block.locations[i] = locationOf(pixel + int(i), last);
+}
+
+/// What ZelGradientRow::weight() gives. A location before the start has the weight of the start.
+void weigh(const BlendCurve &curve, Block &block)
+{
+    const BlendCurve blend = curve;
+    // An interval without extent is through behind its start only.
+    const float through = std::max(blend.end, std::nextafter(blend.start, 2.0f));
+    for (size_t i = 0; i < block.count; ++i) {
+        const float u =
+            ZelGradientBytes::atLeast0((block.locations[i] - blend.start) * blend.invSpan);
+        block.weights[i] = ((blend.a * u + blend.b) * u + blend.c) * u;
     }
+    for (size_t i = 0; i < block.count; ++i)
+        block.weights[i] = ZelGradientBytes::atLeast0(block.weights[i]);
+    for (size_t i = 0; i < block.count; ++i)
+        block.weights[i] = ZelGradientBytes::atMost1(block.weights[i]);
+    for (size_t i = 0; i < block.count; ++i)
+        block.weights[i] = block.locations[i] >= through ? 1.0f : block.weights[i];
+}
+
+void mix(float from, float to, const Block &block, Block::Floats &channel)
+{
+    const float range = to - from;
+    for (size_t i = 0; i < block.count; ++i)
+        channel[i] = ZelGradientBytes::atLeast0(from + range * block.weights[i]);
+}
+
+void evaluate(const AlphaWalk &alpha, const ColorWalk &color, int pixel, float last, Block &block)
+{
+    locate(pixel, last, block);
+    weigh(alpha.curve(), block);
+    mix(alpha.from(), alpha.to(), block, block.alpha);
+    weigh(color.curve(), block);
+    mix(color.from()[0], color.to()[0], block, block.red);
+    mix(color.from()[1], color.to()[1], block, block.green);
+    mix(color.from()[2], color.to()[2], block, block.blue);
 }
 
 template <typename Byte>
-void encode(const Block &block, int count, Byte &&byte, QRgb *pixels)
+void encode(const Block &block, Byte &&byte, QRgb *pixels)
 {
-    for (size_t i = 0; i < size_t(count); ++i) {
-        const auto alpha = uint(ZelGradientBytes::plain(block.alpha[i]));
-        pixels[i] = alpha << 24 | uint(byte(block.red[i])) << 16 | uint(byte(block.green[i])) << 8 |
-                    uint(byte(block.blue[i]));
+    const auto channel = [&](float value) {
+        return uint(byte(ZelGradientBytes::atMost1(value)));
+    };
+    for (size_t i = 0; i < block.count; ++i) {
+        const auto alpha = uint(ZelGradientBytes::plain(ZelGradientBytes::atMost1(block.alpha[i])));
+        pixels[i] = alpha << 24 | channel(block.red[i]) << 16 | channel(block.green[i]) << 8 |
+                    channel(block.blue[i]);
     }
-}
-
-QRgb pixelOf(const Rgb &rgb, float alpha, float exponent)
-{
-    const Block block = {{ZelGradientBytes::clamped(rgb[0])},
-                         {ZelGradientBytes::clamped(rgb[1])},
-                         {ZelGradientBytes::clamped(rgb[2])},
-                         {ZelGradientBytes::clamped(alpha)}};
-    QRgb pixel;
-    if (exponent == 1.0f)
-        encode(block, 1, &ZelGradientBytes::plain, &pixel);
-    else
-        encode(
-            block, 1, [&](float channel) { return ZelGradientBytes::of(exponent).raised(channel); },
-            &pixel);
-    return pixel;
 }
 
 /// Paints the runs of pixels between which neither kind changes its interval.
@@ -158,11 +174,25 @@ void paintRuns(const ZelGradientRow::Stops &stops, Byte &&byte, orv::Span<QRgb> 
             std::min(alpha.nextEntry(pixel + 1, width), color.nextEntry(pixel + 1, width));
         while (pixel < end) {
             const int count = std::min(end - pixel, Block::size);
-            evaluate(alpha, color, pixel, count, last, block);
-            encode(block, count, byte, row.data() + pixel);
+            block.count = size_t(count);
+            evaluate(alpha, color, pixel, last, block);
+            encode(block, byte, row.data() + pixel);
             pixel += count;
         }
     }
+}
+
+QRgb pixelOf(const Rgb &rgb, float alpha, float exponent)
+{
+    const auto shown = [](float value) {
+        return ZelGradientBytes::atMost1(ZelGradientBytes::atLeast0(value));
+    };
+    const auto channel = [&](float value) {
+        return exponent == 1.0f ? ZelGradientBytes::plain(shown(value))
+                                : ZelGradientBytes::of(exponent).raised(shown(value));
+    };
+    return qRgba(channel(rgb[0]), channel(rgb[1]), channel(rgb[2]),
+                 ZelGradientBytes::plain(shown(alpha)));
 }
 
 /// The stop of one kind whose value a stepwise row has reached.
@@ -228,9 +258,9 @@ void ZelGradientRow::paintSolid(const Stops &stops, float exponent, orv::Span<QR
         color.enter(locationOf(pixel, last));
         const int end =
             std::min(alpha.nextEntry(pixel + 1, width), color.nextEntry(pixel + 1, width));
-        std::fill(row.data() + pixel, row.data() + end,
-                  pixelOf(color.current() ? color.current()->rgb : white,
-                          alpha.current() ? alpha.current()->alpha : 1.0f, exponent));
+        const QRgb value = pixelOf(color.current() ? color.current()->rgb : white,
+                                   alpha.current() ? alpha.current()->alpha : 1.0f, exponent);
+        std::fill(row.data() + pixel, row.data() + end, value);
         pixel = end;
     }
 }

@@ -5,6 +5,7 @@
 
 #include <QRgb>
 
+#include <algorithm>
 #include <array>
 
 /// The arithmetic of gradients over plain data.
@@ -42,11 +43,13 @@ orv::color::BlendCurve curve(const Knot &from, const Knot &to);
 /// outside.
 inline float weight(const orv::color::BlendCurve &curve, float x)
 {
+    if (curve.start >= x)
+        return 0.0f;
+    if (x >= curve.end)
+        return 1.0f;
     const float u = (x - curve.start) * curve.invSpan;
     const float cubic = ((curve.a * u + curve.b) * u + curve.c) * u;
-    const float inside = cubic > 0.0f ? (cubic < 1.0f ? cubic : 1.0f) : 0.0f;
-    const float upToEnd = x >= curve.end ? 1.0f : inside;
-    return curve.start >= x ? 0.0f : upToEnd;
+    return cubic > 0.0f ? std::min(cubic, 1.0f) : 0.0f;
 }
 
 /// Fill a row, its first pixel at 0 and its last at 1. It has to be 2 pixels at least.

@@ -106,7 +106,7 @@ std::vector<float> ZelGradientSegment::cuts() const
             result.push_back(float(i) / float(huePieces));
         return result;
     }
-    if (function == Linear && std::abs(half - 0.5f) < nearness)
+    if ((function == Linear || function == Curved) && std::abs(half - 0.5f) < nearness)
         return {0.0f, 1.0f};
     if (function == Linear || function == Sine)
         return {0.0f, half, 1.0f};

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QHideEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPointer>
@@ -40,6 +41,7 @@ public:
         : palette_(palette)
         , edit_(new QLineEdit(palette))
         , view_(new QListView(palette))
+        , nothingFound_(new QLabel(ZelCommandPalette::tr("No command fits"), view_->viewport()))
         , model_(new ZelCommandModel(palette))
     {}
 
@@ -54,6 +56,7 @@ public:
     ZelCommandPalette *palette_;
     QLineEdit *edit_;
     QListView *view_;
+    QLabel *nothingFound_;
     ZelCommandModel *model_;
     QPointer<QWidget> formerFocus_;
 };
@@ -73,6 +76,9 @@ void ZelCommandPalettePrivate::build()
     view_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Typing goes on while users move through the list.
     view_->setFocusPolicy(Qt::NoFocus);
+    nothingFound_->setAlignment(Qt::AlignCenter);
+    nothingFound_->setEnabled(false);
+    (new QVBoxLayout(view_->viewport()))->addWidget(nothingFound_);
     auto *layout = new QVBoxLayout(palette_);
     layout->addWidget(edit_);
     layout->addWidget(view_, 1);
@@ -105,8 +111,9 @@ void ZelCommandPalettePrivate::filter(const QString &text)
 
 void ZelCommandPalettePrivate::choose(int row)
 {
+    nothingFound_->setVisible(model_->rowCount() == 0);
     if (model_->rowCount() == 0) {
-        edit_->setAccessibleDescription(ZelCommandPalette::tr("No command fits"));
+        edit_->setAccessibleDescription(nothingFound_->text());
         return;
     }
     row = std::clamp(row, 0, model_->rowCount() - 1);

@@ -121,20 +121,24 @@ void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
         rebuildConflictHandlers();
         return;
     }
-    rememberKey(object, key);
+    const Group others = rememberKey(object, key);
     if (ZelShortcutConflictHandler *handler = handlerOf(key)) {
         handler->add(object);
         return;
     }
+    if (others.size() < 2)
+        return;
     Group group;
-    for (const QPointer<QObject> &other : objectsByKey.value(key)) {
+    for (const QPointer<QObject> &other : others) {
         if (keyOf(other) == key && !group.contains(other))
             group.append(other);
     }
     makeHandler(group);
 }
 
-void ZelShortcutHandlerPrivate::rememberKey(QObject *object, const QKeySequence &key)
+/// All that came with the key, the object included.
+ZelShortcutHandlerPrivate::Group ZelShortcutHandlerPrivate::rememberKey(QObject *object,
+                                                                        const QKeySequence &key)
 {
     Group &group = objectsByKey[key];
     // Now and then, so that views that come and go leave nothing behind.
@@ -142,6 +146,7 @@ void ZelShortcutHandlerPrivate::rememberKey(QObject *object, const QKeySequence 
     if (isPowerOfTwo)
         group.removeIf([](const QPointer<QObject> &other) { return other.isNull(); });
     group.append(object);
+    return group;
 }
 
 /// A handler of all objects of the group, which have one key.

@@ -97,14 +97,16 @@ QString ZelShortcutHandler::registerShortcut(QString id, QString text, QString k
     const qsizetype dot = id.lastIndexOf(u'.');
     if (dot < 0)
         return key;
-    if (key == portable(Qt::Key_Escape))
+    static const QString escape = portable(Qt::Key_Escape);
+    if (key == escape)
         key.clear();
-    if (!global.categoryIndex.contains(id.left(dot)))
+    if (!global.categoryIndex.contains(QString::fromRawData(id.constData(), dot)))
         return key;
     text = global.nameOverrides.value(id, text);
-    const auto entry = d_->entries.find(id);
-    if (entry == d_->entries.end()) {
-        d_->entries.insert(id, {key, key, text});
+    // Thousands are registered at the start: one search serves both to find and to insert.
+    const auto entry = d_->entries.lowerBound(id);
+    if (entry == d_->entries.end() || id < entry.key()) {
+        d_->entries.insert(entry, id, {key, key, text});
         return key;
     }
     if (!d_->systemInitialized && text.size() > entry->text.size())
@@ -266,7 +268,7 @@ void ZelShortcutHandlerPrivate::addLiveObject(QObject *object)
     if (liveObjects.size() > cleanLimit && hasDead)
         removeDead();
     if (liveObjects.size() > cleanLimit)
-        qWarning() << "Clean limit (or other) issue in ZelShortcuthandler";
+        qWarning("Clean limit (or other) issue in ZelShortcuthandler");
     liveObjects.append(object);
     if (batchUpdate || !systemInitialized)
         return;

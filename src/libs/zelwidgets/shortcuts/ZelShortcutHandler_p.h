@@ -78,7 +78,7 @@ public:
 
 private:
     using Group = QList<QPointer<QObject>>;
-    void rememberKey(QObject *object, const QKeySequence &key);
+    Group rememberKey(QObject *object, const QKeySequence &key);
     void makeHandler(Group group);
     void deleteHandlersBut(const QSet<const ZelShortcutConflictHandler *> &kept);
     /// The live objects by their keys, those that are lent to handlers included.
