@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -29,6 +30,7 @@ private:
     double slopeAt(qsizetype index, qsizetype step) const;
     bool isSmooth(qsizetype index) const;
     void findCorners();
+    std::pair<double, double> endSlopes(qsizetype from, qsizetype to) const;
     qsizetype worst(qsizetype from, qsizetype to) const;
     std::vector<qsizetype> knots() const;
 
@@ -86,13 +88,48 @@ double Fit::slopeAt(qsizetype index, qsizetype step) const
     return nearSlope + (nearSlope - slope(next, next + step)) * nearWidth / (nearWidth + farWidth);
 }
 
+/// The slopes at both ends of a piece. Where these are free, at corners, they are what brings the
+/// piece nearest to its samples.
+std::pair<double, double> Fit::endSlopes(qsizetype from, qsizetype to) const
+{
+    const std::pair given{slopeAt(from, 1), slopeAt(to, -1)};
+    const bool isFromFree = !isSmooth(from);
+    const bool isToFree = !isSmooth(to);
+    if (to - from < 4 || (!isFromFree && !isToFree))
+        return given;
+    // The normal equations of least squares for what either slope adds to the heights.
+    double aa = 0.0;
+    double ab = 0.0;
+    double bb = 0.0;
+    double ar = 0.0;
+    double br = 0.0;
+    const QPointF start = samples_[from];
+    const QPointF way = samples_[to] - start;
+    for (qsizetype i = from + 1; i < to; ++i) {
+        const double t = (samples_[i].x() - start.x()) / way.x();
+        const double a = t * (1.0 - t) * (1.0 - t) * way.x();
+        const double b = -t * t * (1.0 - t) * way.x();
+        const double rest = samples_[i].y() - start.y() - t * t * (3.0 - 2.0 * t) * way.y();
+        aa += a * a;
+        ab += a * b;
+        bb += b * b;
+        ar += a * rest;
+        br += b * rest;
+    }
+    if (!isToFree)
+        return {(ar - ab * given.second) / aa, given.second};
+    if (!isFromFree)
+        return {given.first, (br - ab * given.first) / bb};
+    const double determinant = aa * bb - ab * ab;
+    return {(ar * bb - br * ab) / determinant, (br * aa - ar * ab) / determinant};
+}
+
 /// The sample between two where a single piece has to be cut; `to` if it is good enough.
 qsizetype Fit::worst(qsizetype from, qsizetype to) const
 {
     const QPointF start = samples_[from];
     const QPointF way = samples_[to] - start;
-    const double startSlope = slopeAt(from, 1) * way.x();
-    const double endSlope = slopeAt(to, -1) * way.x();
+    const auto [fromSlope, toSlope] = endSlopes(from, to);
     double largest = tolerance_;
     double sharpest = 0.0;
     qsizetype worstSample = to;
@@ -101,7 +138,7 @@ qsizetype Fit::worst(qsizetype from, qsizetype to) const
         const QPointF sample = samples_[i];
         const double t = (sample.x() - start.x()) / way.x();
         const double height = t * t * (3.0 - 2.0 * t) * way.y() +
-                              t * (1.0 - t) * ((1.0 - t) * startSlope - t * endSlope);
+                              t * (1.0 - t) * ((1.0 - t) * fromSlope - t * toSlope) * way.x();
         const double error = std::abs(sample.y() - start.y() - height);
         if (error > largest) {
             largest = error;
@@ -137,19 +174,18 @@ QList<ZelBezierCurveModel::Vertex> Fit::vertices() const
 {
     const std::vector<qsizetype> at = knots();
     QList<ZelBezierCurveModel::Vertex> result;
-    for (size_t i = 0; i < at.size(); ++i) {
-        const QPointF position = samples_[at[i]];
-        ZelBezierCurveModel::Vertex vertex{position};
-        if (i > 0) {
-            const double third = (position.x() - samples_[at[i - 1]].x()) / 3.0;
-            vertex.inTangent = position - QPointF(third, third * slopeAt(at[i], -1));
-        }
-        if (i + 1 < at.size()) {
-            const double third = (samples_[at[i + 1]].x() - position.x()) / 3.0;
-            vertex.outTangent = position + QPointF(third, third * slopeAt(at[i], 1));
-        }
-        vertex.smooth = isSmooth(at[i]);
+    for (const qsizetype index : at) {
+        ZelBezierCurveModel::Vertex vertex{samples_[index]};
+        vertex.smooth = isSmooth(index);
         result.append(vertex);
+    }
+    for (size_t i = 0; i + 1 < at.size(); ++i) {
+        const double third = (samples_[at[i + 1]].x() - samples_[at[i]].x()) / 3.0;
+        const auto [fromSlope, toSlope] = endSlopes(at[i], at[i + 1]);
+        ZelBezierCurveModel::Vertex &from = result[qsizetype(i)];
+        ZelBezierCurveModel::Vertex &to = result[qsizetype(i) + 1];
+        from.outTangent = from.position + QPointF(third, third * fromSlope);
+        to.inTangent = to.position - QPointF(third, third * toSlope);
     }
     return result;
 }
