@@ -101,12 +101,12 @@ void AnimationCurveTest::fieldMarkerAndBallAgree()
     const int middle = viewport->height() / 2;
     const double pixelTime = view->mapToScene(1, 0).x() - view->mapToScene(0, 0).x();
 
-    // The ruler.
+    // The ruler, where the ball is highest.
     const QPoint onRuler = pixel(1.4, viewport->height() - 8);
     UserInput::press(viewport, onRuler);
     UserInput::release(viewport, onRuler);
     QVERIFY(std::abs(time() - 1.4) <= pixelTime);
-    const QString height = QLocale().toString(*model_->valueAt(time()), 'f', 2);
+    const QString height = QLocale().toString(*model_->valueAt(time()), 'f', 3);
     QVERIFY2(shows(QStringLiteral("Height ") + height), qPrintable(height));
 
     // The marker, beyond the end as well.
