@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ActionsPage.h"
+#include "pages/AnimationCurvePage.h"
 #include "pages/ButtonsPage.h"
 #include "pages/ColorDialogPage.h"
 #include "pages/ColorInputsPage.h"
@@ -139,6 +140,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},
+        {QStringLiteral("animationcurve"), text("Animation curve"),
+         text("A recorded motion that a curve follows, played while it is edited"),
+         QStringLiteral("play"), &make<AnimationCurvePage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

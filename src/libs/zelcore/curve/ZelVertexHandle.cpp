@@ -52,3 +52,12 @@ void ZelVertexHandle::remove()
     if (isValid())
         slot_->model->removeVertex(slot_->index);
 }
+
+QDebug operator<<(QDebug debug, const ZelVertexHandle &handle)
+{
+    const QDebugStateSaver saver(debug);
+    debug.nospace() << "ZelVertexHandle(";
+    if (handle.isValid())
+        debug << handle.index();
+    return debug << ')';
+}

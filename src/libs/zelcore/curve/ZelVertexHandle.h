@@ -2,6 +2,7 @@
 
 #include <ZelCore/ZelCurveModel>
 
+#include <QDebug>
 #include <QMetaType>
 
 #include <functional>
@@ -54,6 +55,9 @@ private:
 
     std::shared_ptr<ZelVertexSlot> slot_;
 };
+
+/// Writes the present index.
+ZELCORE_EXPORT QDebug operator<<(QDebug debug, const ZelVertexHandle &handle);
 
 template <>
 struct std::hash<ZelVertexHandle>

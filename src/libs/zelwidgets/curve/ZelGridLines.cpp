@@ -9,7 +9,10 @@ namespace ZelGridLines {
 double spacing(double sceneSize, double viewSize, double minSceneSize, double minViewSize)
 {
     const double pixelsPerMinStep = viewSize / (sceneSize / minSceneSize);
-    const double steps = std::ceil(minViewSize / pixelsPerMinStep);
+    // A whole number of steps must not become one more by the rounding of the sizes: the grid would
+    // jump while the view is panned.
+    constexpr double rounding = 1e-9;
+    const double steps = std::ceil(minViewSize / pixelsPerMinStep * (1 - rounding));
     return std::max(1.0, steps) * minSceneSize;
 }
 
