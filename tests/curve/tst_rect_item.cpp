@@ -27,6 +27,7 @@ private Q_SLOTS:
     void itemsAreConfined_data();
     void itemsAreConfined();
     void dragsSnapAndStayInside();
+    void arrowKeysGoFromPlaceToPlace();
     void showingConfines();
 };
 
@@ -120,6 +121,32 @@ void RectItemTest::dragsSnapAndStayInside()
     drag({0, -170});
     QCOMPARE(item->getSnap(), 4);
     QCOMPARE(item->pos(), QPointF(150, 20));
+}
+
+void RectItemTest::arrowKeysGoFromPlaceToPlace()
+{
+    QGraphicsScene scene(QRectF(QPointF(), sceneSize));
+    auto *item = new ZelGraphicsRectItem(rect);
+    scene.addItem(item);
+    item->setPos(130, 100);
+    item->setAllowedSnapping(all & ~4);
+    QGraphicsView view(&scene);
+    view.show();
+    view.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+    view.setFocus();
+    item->setFocus();
+    const auto press = [&](Qt::Key key) {
+        QTest::keyClick(&view, key);
+        return item->getSnap();
+    };
+    QCOMPARE(press(Qt::Key_Down), 32);
+    QCOMPARE(press(Qt::Key_Down), 32);
+    QCOMPARE(press(Qt::Key_Right), 64);
+    QCOMPARE(press(Qt::Key_Up), 8);
+    QCOMPARE(press(Qt::Key_Left), 2);
+    QCOMPARE(item->pos(), QPointF(2, 2));
+    QCOMPARE(press(Qt::Key_Space), 2);
 }
 
 void RectItemTest::showingConfines()
