@@ -39,29 +39,21 @@ QImage painted(ZelCurveViewDecorator2 &decorator, const QRectF &area, const QSiz
     return image;
 }
 
-/// Where the painted stretches of a row or column of pixels begin, and how long they are.
-QList<std::pair<int, int>> stretches(const QImage &image, Qt::Orientation along, int at)
-{
-    QList<std::pair<int, int>> found;
-    const int length = along == Qt::Horizontal ? image.width() : image.height();
-    bool inside = false;
-    for (int i = 0; i < length; ++i) {
-        const QRgb pixel = along == Qt::Horizontal ? image.pixel(i, at) : image.pixel(at, i);
-        const bool dark = qGray(pixel) < 128;
-        if (dark && !inside)
-            found.append({i, 0});
-        inside = dark;
-        if (dark)
-            ++found.last().second;
-    }
-    return found;
-}
-
+/// The lengths of the painted stretches of a row or column of pixels.
 QList<int> widths(const QImage &image, Qt::Orientation along, int at)
 {
+    const QImage turned =
+        along == Qt::Horizontal ? image : image.transformed(QTransform(0, 1, 1, 0, 0, 0));
     QList<int> result;
-    for (const auto &stretch : stretches(image, along, at))
-        result.append(stretch.second);
+    bool inside = false;
+    for (int x = 0; x < turned.width(); ++x) {
+        const bool dark = qGray(turned.pixel(x, at)) < 128;
+        if (dark && !inside)
+            result.append(0);
+        inside = dark;
+        if (dark)
+            ++result.last();
+    }
     return result;
 }
 
@@ -138,7 +130,6 @@ private Q_SLOTS:
     void gridPaintsWhatThePositioningSays();
     void nullPositioningIsRefused();
     void labelsStandAtTheirLines();
-    void labelsFollowTheFont_data();
     void labelsFollowTheFont();
     void labelsAreReplacedAndBounded();
     void rulerIsABandOfPixels();
@@ -148,11 +139,9 @@ private Q_SLOTS:
     void markerPartsStackApart();
     void markerIsDragged();
     void markerShowsThatTheMouseIsThere();
-    void markerKeepsWhatWasSetBeforeTheScene();
+    void markerSurvivesAClearedScene();
     void markerStatesAreGuarded();
-    void itemsEndWithTheSceneOrTheDecorator_data();
     void itemsEndWithTheSceneOrTheDecorator();
-    void decoratorsMayEndInTheirSignals_data();
     void decoratorsMayEndInTheirSignals();
 };
 
@@ -163,8 +152,10 @@ void TestCurveDecorators::linesKeepTheirWidthOnScreen()
     ZelAxisDecorator axes;
     axes.setPen(QPen(Qt::black, 5));
     const QImage cross = painted(axes, area, size);
-    QCOMPARE(stretches(cross, Qt::Horizontal, 20), (QList<std::pair<int, int>>{{198, 5}}));
-    QCOMPARE(stretches(cross, Qt::Vertical, 20), (QList<std::pair<int, int>>{{148, 5}}));
+    QCOMPARE(widths(cross, Qt::Horizontal, 20), QList<int>({5}));
+    QCOMPARE(widths(cross, Qt::Vertical, 20), QList<int>({5}));
+    QCOMPARE(cross.pixel(200, 20), qRgb(0, 0, 0));
+    QCOMPARE(cross.pixel(20, 150), qRgb(0, 0, 0));
 
     // Half of it is outside.
     ZelFrameDecorator2 frame;
@@ -179,13 +170,10 @@ void TestCurveDecorators::verticalLineOnlyWithinTheArea()
     const QSize size(200, 20);
     ZelVLineDecorator2 line;
     line.setPen(QPen(Qt::black, 3));
-    for (const double inside : {0.0, 5.0, 10.0}) {
-        line.setPosition(inside);
-        QVERIFY(!widths(painted(line, area, size), Qt::Horizontal, 10).isEmpty());
-    }
-    for (const double outside : {-0.01, 10.01, std::nan("")}) {
-        line.setPosition(outside);
-        QVERIFY(widths(painted(line, area, size), Qt::Horizontal, 10).isEmpty());
+    for (const double x : {0.0, 5.0, 10.0, -0.01, 10.01, std::nan("")}) {
+        line.setPosition(x);
+        const bool isPainted = !widths(painted(line, area, size), Qt::Horizontal, 10).isEmpty();
+        QCOMPARE(isPainted, x >= 0 && x <= 10);
     }
 }
 
@@ -206,17 +194,16 @@ void TestCurveDecorators::gridPaintsWhatThePositioningSays()
 void TestCurveDecorators::nullPositioningIsRefused()
 {
     ZelGridDecorator2 grid;
-    grid.setPen(QPen(Qt::black, 1));
-    grid.setPositioning(nullptr);
-    QCOMPARE(widths(painted(grid, {-2.5, -1.5, 5, 3}, {500, 60}), Qt::Horizontal, 20).size(), 5);
-    Bench bench;
     ZelGridLabelDecorator labels;
+    grid.setPositioning(nullptr);
     labels.setPositioning(nullptr);
-    bench.add(labels);
-    QVERIFY(!bench.items<QGraphicsSimpleTextItem>().isEmpty());
     QCOMPARE(messages().messages(QtDebugMsg),
              QStringList({decoratorAssertion("positioning != nullptr", "setPositioning", 213),
                           decoratorAssertion("positioning != nullptr", "setPositioning", 342)}));
+    Bench bench;
+    bench.add(labels);
+    QVERIFY(!bench.items<QGraphicsSimpleTextItem>().isEmpty());
+    QCOMPARE(widths(painted(grid, {-2.5, -1.5, 5, 3}, {500, 60}), Qt::Horizontal, 20).size(), 5);
 }
 
 void TestCurveDecorators::labelsStandAtTheirLines()
@@ -257,28 +244,19 @@ void TestCurveDecorators::labelsStandAtTheirLines()
     QCOMPARE(bench.items<QGraphicsSimpleTextItem>().value(0)->text(), QStringLiteral("1.5e+03s"));
 }
 
-void TestCurveDecorators::labelsFollowTheFont_data()
-{
-    QTest::addColumn<double>("application");
-    QTest::addColumn<double>("label");
-    QTest::newRow("small") << 9.5 << 9.5;
-    QTest::newRow("shrunk") << 10.0 << 7.5;
-    QTest::newRow("capped") << 20.0 << 13.0;
-}
-
 void TestCurveDecorators::labelsFollowTheFont()
 {
-    QFETCH(double, application);
-    QFETCH(double, label);
     const QFont before = QApplication::font();
     Bench bench;
     ZelGridLabelDecorator labels;
     QFont font = before;
-    font.setPointSizeF(application);
-    QApplication::setFont(font);
-    bench.add(labels);
-    QApplication::setFont(before);
-    QCOMPARE(bench.items<QGraphicsSimpleTextItem>().value(0)->font().pointSizeF(), label);
+    for (const auto &[size, labelSize] : {std::pair(9.5, 9.5), {10.0, 7.5}, {20.0, 13.0}}) {
+        font.setPointSizeF(size);
+        QApplication::setFont(font);
+        bench.add(labels);
+        QApplication::setFont(before);
+        QCOMPARE(bench.items<QGraphicsSimpleTextItem>().value(0)->font().pointSizeF(), labelSize);
+    }
 }
 
 void TestCurveDecorators::labelsAreReplacedAndBounded()
@@ -472,20 +450,16 @@ void TestCurveDecorators::markerShowsThatTheMouseIsThere()
     QVERIFY(!QApplication::overrideCursor());
 }
 
-void TestCurveDecorators::markerKeepsWhatWasSetBeforeTheScene()
+void TestCurveDecorators::markerSurvivesAClearedScene()
 {
     Bench bench;
-    QVERIFY(bench.isReady());
     ZelTimeMarkerDecorator marker(Side::Right);
-    marker.setPen(QPen(Qt::red, 0));
-    marker.setPosition(-2);
     bench.add(marker);
-    QCOMPARE(bench.markerParts().value(0).left(), double(bench.pixel(-2, 0).x()));
-    QCOMPARE(bench.items<QGraphicsPolygonItem>().value(0)->brush(), QBrush(Qt::red));
     bench.scene->clear();
     marker.setPosition(3);
     marker.setPen(QPen(Qt::blue));
     marker.setZOrderTop(1);
+    marker.setZOrderBottom(1);
     bench.update(marker);
     QCOMPARE(bench.scene->items().size(), 0);
 }
@@ -532,72 +506,58 @@ void TestCurveDecorators::markerStatesAreGuarded()
     QCOMPARE(changed.size(), 0);
 }
 
-using Maker = std::function<std::unique_ptr<ZelCurveViewDecorator2>()>;
-
-void TestCurveDecorators::itemsEndWithTheSceneOrTheDecorator_data()
-{
-    QTest::addColumn<Maker>("make");
-    QTest::newRow("labels") << Maker([] { return std::make_unique<ZelGridLabelDecorator>(); });
-    QTest::newRow("ruler") << Maker([] { return std::make_unique<ZelGridRulerDecorator>(); });
-    QTest::newRow("marker") << Maker(
-        [] { return std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom); });
-}
-
 void TestCurveDecorators::itemsEndWithTheSceneOrTheDecorator()
 {
-    QFETCH(Maker, make);
+    const auto makeAll = [](Bench &bench) {
+        std::vector<std::unique_ptr<ZelCurveViewDecorator2>> all;
+        all.push_back(std::make_unique<ZelGridLabelDecorator>());
+        all.push_back(std::make_unique<ZelGridRulerDecorator>());
+        all.push_back(std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom));
+        for (const auto &decorator : all)
+            bench.add(*decorator);
+        return all;
+    };
     Bench bench;
-    auto first = make();
-    bench.add(*first);
+    auto first = makeAll(bench);
     QVERIFY(!bench.scene->items().isEmpty());
-    first.reset();
+    first.clear();
     QVERIFY(bench.scene->items().isEmpty());
-
-    auto second = make();
-    bench.add(*second);
+    const auto second = makeAll(bench);
     bench.scene.reset();
-    second->updateItems({0, 0, 1, 1}, QTransform::fromScale(1, -1));
-    QCOMPARE(messages().messages(QtDebugMsg).size(), 1);
-}
-
-void TestCurveDecorators::decoratorsMayEndInTheirSignals_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::newRow("clicked") << 0;
-    QTest::newRow("moved") << 1;
-    QTest::newRow("released") << 2;
-    QTest::newRow("marker moved") << 3;
+    for (const auto &decorator : second)
+        decorator->updateItems({0, 0, 1, 1}, QTransform::fromScale(1, -1));
+    QCOMPARE(messages().messages(QtDebugMsg).size(), 3);
 }
 
 void TestCurveDecorators::decoratorsMayEndInTheirSignals()
 {
-    QFETCH(int, signal);
+    using Ruler = ZelGridRulerDecorator;
     Bench bench;
     QVERIFY(bench.isReady());
-    auto ruler = std::make_unique<ZelGridRulerDecorator>();
-    auto marker = std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom);
-    bench.add(*ruler);
-    bench.add(*marker);
-    const auto endRuler = [&ruler] {
-        ruler.reset();
-    };
-    if (signal == 0)
-        connect(ruler.get(), &ZelGridRulerDecorator::clicked, this, endRuler);
-    else if (signal == 1)
-        connect(ruler.get(), &ZelGridRulerDecorator::moved, this, endRuler);
-    else if (signal == 2)
-        connect(ruler.get(), &ZelGridRulerDecorator::released, this, endRuler);
-    else
-        connect(marker.get(), &ZelTimeMarkerDecorator::markerPositionChanged, this,
-                [&marker] { marker.reset(); });
     QWidget *area = bench.view.viewport();
-    UserInput::drag(area, {100, 295}, {120, 295});
-    UserInput::drag(area, {200, 100}, {300, 100});
-    QCOMPARE(ruler == nullptr, signal < 3);
-    QCOMPARE(marker == nullptr, signal == 3);
-    UserInput::move(area, {50, 150}, {}, Qt::NoButton);
-    QTRY_VERIFY(!QApplication::overrideCursor());
-    UserInput::drag(area, {100, 295}, {120, 295});
+    for (int signal = 0; signal < 4; ++signal) {
+        auto ruler = std::make_unique<Ruler>();
+        auto marker = std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom);
+        bench.add(*ruler);
+        bench.add(*marker);
+        const auto end = [&ruler, &marker, signal] {
+            signal < 3 ? ruler.reset() : marker.reset();
+        };
+        if (signal == 0)
+            connect(ruler.get(), &Ruler::clicked, this, end);
+        else if (signal == 1)
+            connect(ruler.get(), &Ruler::moved, this, end);
+        else if (signal == 2)
+            connect(ruler.get(), &Ruler::released, this, end);
+        else
+            connect(marker.get(), &ZelTimeMarkerDecorator::markerPositionChanged, this, end);
+        UserInput::drag(area, {100, 295}, {120, 295});
+        UserInput::drag(area, {200, 100}, {300, 100});
+        QCOMPARE(ruler == nullptr, signal < 3);
+        QCOMPARE(marker == nullptr, signal == 3);
+        UserInput::move(area, {50, 150}, {}, Qt::NoButton);
+        QTRY_VERIFY(!QApplication::overrideCursor());
+    }
 }
 
 ZEL_TEST_MAIN(TestCurveDecorators)

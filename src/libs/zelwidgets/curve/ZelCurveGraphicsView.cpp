@@ -117,12 +117,16 @@ void ZelCurveGraphicsView::updateViewport()
     viewport()->update();
 }
 
-/// What was achieved counts, so that roundings to pixels don't add up.
+/// What was achieved counts from now on. As long as nobody wants another area the wish is kept
+/// beside it, so that roundings to pixels don't add up while the user resizes a window.
 void ZelCurveGraphicsView::applyVisibleArea()
 {
-    scaleTo(visibleArea_.size());
-    setScrollbars(visibleArea_.bottomLeft());
+    if (visibleArea_ != achievedArea_)
+        wishedArea_ = visibleArea_;
+    scaleTo(wishedArea_.size());
+    setScrollbars(wishedArea_.bottomLeft());
     visibleArea_ = actualVisibleArea();
+    achievedArea_ = visibleArea_;
 }
 
 /// Scales by relative factors, so that an axis that is turned stays turned.

@@ -81,6 +81,7 @@ protected:
 
 private:
     friend class AccessibleCurveMarkers;
+    friend class ZelCurveViewAccess;
     class ViewTransform;
     class VertexDrag;
     struct DragState;
@@ -126,6 +127,9 @@ private:
     QPointer<ZelCurveScene> scene_;
     const ZelCurveView2Style *style_ = nullptr;
     QRectF visibleArea_;
+    /// What was asked for, and what the visible area then was.
+    QRectF wishedArea_;
+    QRectF achievedArea_;
     Decorators backgroundDecorators_;
     Decorators foregroundDecorators_;
     std::unique_ptr<DragState> dragState_;

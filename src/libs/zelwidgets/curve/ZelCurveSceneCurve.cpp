@@ -57,7 +57,7 @@ ZelCurveScene::Curve::Curve(ZelCurveModel *model, ZelCurveScene *scene,
     , scene_(scene)
     , pathItem_(new PathItem(model->path(QRectF())))
 {
-    pathItem_->setZValue(style->curveZ);
+    pathItem_->setZValue(style ? style->curveZ : 0.0);
     scene->addItem(pathItem_);
     auto *handler = new ZelPersistentVertexHandler(model);
     handler->setParent(this);

@@ -279,7 +279,8 @@ void ZelCurveView::paintVertices(QPainter &painter, const Curve &curve) const
     const int selected = selection_.model() == curve.model ? selection_.index() : -1;
     for (int i = 0; i < curve.vertices.size(); ++i) {
         const QPointF center = viewToWidgetTransform_.map(curve.vertices[i]);
-        if (!visible.contains(center))
+        const bool isPoint = qIsFinite(center.x()) && qIsFinite(center.y());
+        if (!isPoint || !visible.contains(center))
             continue;
         painter.setBrush(i == selected ? QBrush(pen.color()) : QBrush(Qt::NoBrush));
         painter.drawEllipse(center, vertexSize_ / 2, vertexSize_ / 2);

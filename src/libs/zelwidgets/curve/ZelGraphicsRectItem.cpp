@@ -3,7 +3,28 @@
 #include "curve/ZelRectSnapping.h"
 
 #include <QGraphicsScene>
+#include <QKeyEvent>
 #include <QPen>
+
+namespace {
+
+QPoint directionOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 ZelGraphicsRectItem::ZelGraphicsRectItem(QGraphicsItem *parent)
     : ZelGraphicsRectItem(QRectF(), parent)
@@ -12,7 +33,7 @@ ZelGraphicsRectItem::ZelGraphicsRectItem(QGraphicsItem *parent)
 ZelGraphicsRectItem::ZelGraphicsRectItem(const QRectF &rect, QGraphicsItem *parent)
     : QGraphicsRectItem(rect, parent)
 {
-    setFlags(ItemIsMovable | ItemIsSelectable);
+    setFlags(ItemIsMovable | ItemIsSelectable | ItemIsFocusable);
     setPen(QPen(Qt::lightGray, 1));
 }
 
@@ -60,6 +81,19 @@ void ZelGraphicsRectItem::confineToScene()
     if (scene())
         setPos(ZelRectSnapping::confined(snap_, boundingRect(), pos(), scene()->sceneRect().size(),
                                          border_));
+}
+
+void ZelGraphicsRectItem::keyPressEvent(QKeyEvent *event)
+{
+    const QPoint direction = directionOf(event->key());
+    if (direction.isNull() || !scene()) {
+        QGraphicsRectItem::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    if (take(ZelRectSnapping::nextTowards(direction, boundingRect(), pos(),
+                                          scene()->sceneRect().size(), border_, allowedSnapping_)))
+        confineToScene();
 }
 
 void ZelGraphicsRectItem::mouseMoveEvent(QGraphicsSceneMouseEvent *event)

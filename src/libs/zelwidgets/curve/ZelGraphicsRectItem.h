@@ -5,7 +5,8 @@
 #include <QGraphicsRectItem>
 
 /// A rectangle that the user drags within its scene and that snaps to the corners and to the middle
-/// of the top and bottom edges.
+/// of the top and bottom edges. With the keyboard focus, the arrow keys move it to the next allowed
+/// position their way.
 ///
 /// Its rectangle and its scene begin at (0, 0). Positions are numbers of one bit each: 1 free, 2
 /// top left, 4 top centre, 8 top right, 16 bottom left, 32 bottom centre, 64 bottom right.
@@ -29,6 +30,7 @@ public:
     void confineToScene();
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
 

@@ -80,4 +80,23 @@ QPointF confined(int snap, const QRectF &bounds, QPointF pos, QSizeF scene, int 
     }
 }
 
+int nextTowards(QPoint direction, const QRectF &bounds, QPointF pos, QSizeF scene, int border,
+                int allowed)
+{
+    int nearest = 0;
+    double least = 0;
+    for (int snap = TopLeft; snap <= BottomRight; snap *= 2) {
+        const QPointF way = confined(snap, bounds, pos, scene, border) - pos;
+        const double along = way.x() * direction.x() + way.y() * direction.y();
+        // Straight ahead goes before aside.
+        const double detour = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+        const double distance = along + 4 * detour;
+        if (!(allowed & snap) || !(along >= 1.0) || (nearest != 0 && distance >= least))
+            continue;
+        nearest = snap;
+        least = distance;
+    }
+    return nearest;
+}
+
 } // namespace ZelRectSnapping

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -27,5 +28,10 @@ int snapToTop(const QRectF &rect, QPointF pos, QSizeF scene, int distance, int a
 /// Where an item with these bounds belongs: at its snap position, or, if that is Free, at pos but
 /// inside of the scene. The border is kept free along the scene's edges.
 QPointF confined(int snap, const QRectF &bounds, QPointF pos, QSizeF scene, int border);
+
+/// The nearest allowed position for an item at pos in a direction along one axis; 0 if there is
+/// none that way.
+int nextTowards(QPoint direction, const QRectF &bounds, QPointF pos, QSizeF scene, int border,
+                int allowed);
 
 } // namespace ZelRectSnapping

@@ -1,4 +1,4 @@
-#include "ZelLineDecorators.h"
+#include "ZelDrawnDecorators.h"
 
 #include <ZelWidgets/ZelPenScaling>
 

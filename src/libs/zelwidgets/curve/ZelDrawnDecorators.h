@@ -4,7 +4,7 @@
 
 #include <QPen>
 
-/// The lines x = 0 and y = 0. Pens of all line decorators keep their width on screen; a setter only
+/// The lines x = 0 and y = 0. Pens of drawn decorators keep their width on screen; a setter only
 /// stores, and the caller repaints.
 class ZELWIDGETS_EXPORT ZelAxisDecorator : public ZelCurveViewDecorator2
 {
