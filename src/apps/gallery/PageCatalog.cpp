@@ -1,6 +1,7 @@
 #include "PageCatalog.h"
 
 #include "pages/ActionsPage.h"
+#include "pages/AnimationCurvePage.h"
 #include "pages/ButtonsPage.h"
 #include "pages/ColorDialogPage.h"
 #include "pages/ColorInputsPage.h"
@@ -25,6 +26,7 @@
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/ProgressPage.h"
+#include "pages/RectItemPage.h"
 #include "pages/ShortcutsPage.h"
 #include "pages/SizesPage.h"
 #include "pages/SlidersPage.h"
@@ -139,6 +141,13 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},
+        {QStringLiteral("animationcurve"), text("Animation curve"),
+         text("A recorded motion that a curve follows, played while it is edited"),
+         QStringLiteral("play"), &make<AnimationCurvePage>},
+
+        {QStringLiteral("rectitem"), text("Rect item and snapping"),
+         text("A rectangle that is dragged over a view and snaps to its corners and edges"),
+         QStringLiteral("window_collapse"), &make<RectItemPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
