@@ -78,8 +78,8 @@ protected:
     void paintEvent(QPaintEvent *event) override
     {
         const QPalette colors = palette();
-        item_->setBrush(colors.color(QPalette::Button));
-        text_->setBrush(colors.color(QPalette::ButtonText));
+        item_->setBrush(colors.color(QPalette::Highlight));
+        text_->setBrush(colors.color(QPalette::HighlightedText));
         text_->setFont(font());
         text_->setPos(item_->rect().center() - text_->boundingRect().center());
         QGraphicsView::paintEvent(event);
