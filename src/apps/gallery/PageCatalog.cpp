@@ -16,6 +16,7 @@
 #include "pages/FontsPage.h"
 #include "pages/GradientPage.h"
 #include "pages/GroupingPage.h"
+#include "pages/HeadersPage.h"
 #include "pages/IconsPage.h"
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
@@ -139,6 +140,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},
+        {QStringLiteral("headers"), text("Headers and splitters"),
+         text("Columns, rows, sizes and heights as they are left, side bars"),
+         QStringLiteral("sliders"), &make<HeadersPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},
