@@ -22,7 +22,7 @@
 namespace {
 
 constexpr int tableHeight = 190;
-constexpr int lineWidth = 2;
+constexpr int dropLineWidth = 2;
 constexpr int leastPanel = 80;
 constexpr int mostPanel = 400;
 
@@ -65,7 +65,7 @@ protected:
         const int y =
             header_->sectionViewportPosition(to) + (isDown ? header_->sectionSize(to) : 0);
         QPainter painter(viewport());
-        painter.fillRect(0, y - lineWidth / 2, viewport()->width(), lineWidth,
+        painter.fillRect(0, y - dropLineWidth / 2, viewport()->width(), dropLineWidth,
                          palette().color(QPalette::Link));
     }
 
@@ -217,7 +217,6 @@ void HeadersPage::addSideBars()
     }
     connect(list, &QListWidget::currentRowChanged, pages, &QStackedWidget::setCurrentIndex);
     list->setCurrentRow(0);
-    list->setMaximumHeight(tableHeight);
     row->addWidget(list);
     row->addWidget(pages, 1);
     QTreeWidget *tree = ZelSideBarNavigationTree::create(this);
@@ -228,7 +227,6 @@ void HeadersPage::addSideBars()
             new QTreeWidgetItem(item, {page});
     }
     tree->expandAll();
-    tree->setMaximumHeight(tableHeight);
     row->addWidget(tree);
     row->addStretch(1);
 }

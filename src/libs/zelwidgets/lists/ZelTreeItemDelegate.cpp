@@ -114,7 +114,7 @@ void ZelTreeItemDelegate::paintIcons(QPainter *painter, const QRect &row,
         const bool isActive = isIconActive(at, index);
         if (!entry.alwaysVisible && !isActive)
             continue;
-        const bool isReplaced = entry.hasActiveIcon && isActive;
+        const bool isReplaced = entry.alwaysVisible && isActive && !entry.activeIcon.isNull();
         const bool isHot = isFramed(at, index) || iconRect(at, row).contains(cursor);
         if (isFramed(at, index)) {
             painter->setPen(view_->palette().color(QPalette::Link));
