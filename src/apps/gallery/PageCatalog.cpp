@@ -17,6 +17,7 @@
 #include "pages/FontsPage.h"
 #include "pages/GradientPage.h"
 #include "pages/GroupingPage.h"
+#include "pages/HeadersPage.h"
 #include "pages/IconsPage.h"
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
@@ -148,6 +149,9 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("rectitem"), text("Rect item and snapping"),
          text("A rectangle that is dragged over a view and snaps to its corners and edges"),
          QStringLiteral("window_collapse"), &make<RectItemPage>},
+        {QStringLiteral("headers"), text("Headers and splitters"),
+         text("Columns, rows, sizes and heights as they are left, side bars"),
+         QStringLiteral("sliders"), &make<HeadersPage>},
         {QStringLiteral("windows"), text("Windows"),
          text("Placement, modal dialogs, tool tips, hover and the other services"),
          QStringLiteral("windows"), &make<WindowsPage>},

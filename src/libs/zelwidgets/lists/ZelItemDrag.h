@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QList>
+#include <QModelIndexList>
+#include <QPersistentModelIndex>
+#include <QPixmap>
+#include <QPoint>
+#include <QSize>
+
+#include <functional>
+
+class QAbstractItemModel;
+class QAbstractItemView;
+class QDropEvent;
+class QEvent;
+
+/// What the item views share: what is dragged, its picture, where it is dropped, and who asks for
+/// tool tips.
+namespace ZelItemDrag {
+
+/// Those of the indices that may be dragged.
+QModelIndexList draggable(QModelIndexList indices);
+
+/// The selection if it holds more indices than there are rows at the root, else what lies under the
+/// drop. They outlive changes of the model.
+QList<QPersistentModelIndex> targets(const QAbstractItemView *view, const QModelIndexList &selected,
+                                     const QDropEvent *event);
+/// Whether any of the targets took the drop. Targets and the model may go while it is handed out.
+bool dropOn(QAbstractItemModel *model, const QDropEvent *event,
+            const QList<QPersistentModelIndex> &targets);
+
+/// How many of the items are drawn, and where, in the logical pixels of the picture; the last place
+/// is that of the last item.
+QList<QPoint> places(qsizetype items);
+inline constexpr QSize pictureSize(100, 100);
+inline constexpr int overhang = 28;
+
+/// A stack of pictures; a single one stands for itself. Asks for no more than are drawn.
+QPixmap picture(qsizetype items, qreal pixelRatio, const std::function<QPixmap(qsizetype)> &ofItem);
+
+/// The same for pictures in a role of a model, which may be icons or pixmaps.
+QPixmap pictureOf(const QModelIndexList &indices, int role, qreal pixelRatio);
+
+/// Asks for a tool tip, or for its end, on the events that tell so.
+void hearToolTips(const QAbstractItemView *view, const QEvent *event,
+                  const std::function<void(const QModelIndex &)> &show,
+                  const std::function<void()> &hide);
+
+} // namespace ZelItemDrag

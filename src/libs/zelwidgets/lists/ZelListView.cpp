@@ -1,0 +1,133 @@
+#include "ZelListView.h"
+
+#include "lists/ZelItemDrag.h"
+#include "lists/ZelZoomRequest.h"
+#include "shortcuts/ZelShortcut.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPointer>
+#include <QWheelEvent>
+
+ZelListView::ZelListView(QWidget *parent)
+    : QListView(parent)
+{
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setWrapping(true);
+    setAcceptDrops(true);
+    setDragEnabled(true);
+    setDragDropMode(DragDrop);
+    setDropIndicatorShown(false);
+    setDefaultDropAction(Qt::CopyAction);
+    setResizeMode(Adjust);
+    new ZelShortcut(QStringLiteral("gen.aCopy"), tr("Copy"), Qt::Key_Copy, this,
+                    SIGNAL(copyRequest()));
+}
+
+ZelListView::~ZelListView() = default;
+
+void ZelListView::setExtendDropToSelection(bool extend)
+{
+    extendDropToSelection_ = extend;
+}
+
+QModelIndexList ZelListView::draggableIndices() const
+{
+    return ZelItemDrag::draggable(selectedIndexes());
+}
+
+bool ZelListView::event(QEvent *event)
+{
+    ZelItemDrag::hearToolTips(
+        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
+        [this] { Q_EMIT toolTipHideRequest(); });
+    return QListView::event(event);
+}
+
+void ZelListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    QListView::dragEnterEvent(event);
+    if (event->isAccepted())
+        Q_EMIT dragEnter();
+}
+
+void ZelListView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QListView::dragLeaveEvent(event);
+    if (event->isAccepted())
+        Q_EMIT dragLeave();
+}
+
+void ZelListView::dropEvent(QDropEvent *event)
+{
+    const QPointer<ZelListView> self(this);
+    if (extendDropToSelection_)
+        doExtendDropToSelection(event);
+    else
+        QListView::dropEvent(event);
+    if (self)
+        Q_EMIT dragLeave();
+}
+
+void ZelListView::doExtendDropToSelection(QDropEvent *event)
+{
+    const QPointer<ZelListView> self(this);
+    const QList<QPersistentModelIndex> targets = getDropTargets(event);
+    if (!targets.isEmpty()) {
+        Q_EMIT beginDropSelection();
+        const bool isTaken = self && dropOn(event, targets);
+        if (self)
+            Q_EMIT endDropSelection();
+        if (isTaken)
+            event->acceptProposedAction();
+    }
+    if (!self)
+        return;
+    stopAutoScroll();
+    setState(NoState);
+}
+
+QList<QPersistentModelIndex> ZelListView::getDropTargets(QDropEvent const *event) const
+{
+    return ZelItemDrag::targets(this, selectedIndexes(), event);
+}
+
+bool ZelListView::dropOn(QDropEvent const *event, QList<QPersistentModelIndex> const &targets)
+{
+    return ZelItemDrag::dropOn(model(), event, targets);
+}
+
+void ZelListView::startDrag(Qt::DropActions)
+{
+    const QModelIndexList indices = draggableIndices();
+    QMimeData *data = model() && !indices.isEmpty() ? model()->mimeData(indices) : nullptr;
+    if (!data)
+        return;
+    auto *drag = new QDrag(this);
+    drag->setMimeData(data);
+    drag->setPixmap(ZelItemDrag::pictureOf(indices, Qt::DecorationRole, devicePixelRatioF()));
+    drag->exec(model()->supportedDragActions(), defaultDropAction());
+}
+
+ZelListViewWithZoom::ZelListViewWithZoom(QWidget *parent)
+    : ZelListView(parent)
+{}
+
+void ZelListViewWithZoom::keyPressEvent(QKeyEvent *event)
+{
+    if (const auto delta = ZelZoomRequest::of(event))
+        Q_EMIT resize(*delta);
+    else
+        QAbstractItemView::keyPressEvent(event);
+}
+
+void ZelListViewWithZoom::wheelEvent(QWheelEvent *event)
+{
+    if (const auto delta = ZelZoomRequest::of(event))
+        Q_EMIT resize(*delta);
+    else
+        ZelListView::wheelEvent(event);
+}

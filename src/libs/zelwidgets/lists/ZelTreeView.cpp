@@ -1,0 +1,145 @@
+#include "ZelTreeView.h"
+
+#include "lists/ZelItemDrag.h"
+#include "shortcuts/ZelShortcut.h"
+#include "theme/ZelFontMetrics.h"
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QIcon>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPointer>
+
+ZelTreeView::ZelTreeView(QWidget *parent)
+    : QTreeView(parent)
+{
+    setAllColumnsShowFocus(true);
+    setUniformRowHeights(true);
+    setTextElideMode(Qt::ElideNone);
+    setAcceptDrops(true);
+    setDragEnabled(true);
+    setDragDropMode(DragDrop);
+    setDropIndicatorShown(false);
+    setDefaultDropAction(Qt::CopyAction);
+    new ZelShortcut(QStringLiteral("gen.aCopy"), tr("Copy"), Qt::Key_Copy, this,
+                    SIGNAL(copyRequest()));
+}
+
+ZelTreeView::~ZelTreeView() = default;
+
+void ZelTreeView::setExtendDropToSelection(bool extend)
+{
+    extendDropToSelection_ = extend;
+}
+
+void ZelTreeView::setRepaintOnMouseMove(bool repaint)
+{
+    setAttribute(Qt::WA_MouseTracking, repaint);
+    viewport()->setMouseTracking(repaint);
+    repaintOnMouseMove_ = repaint;
+}
+
+void ZelTreeView::setSizeConstraintText(QString const &text)
+{
+    sizeConstraintText_ = text;
+    updateGeometry();
+}
+
+void ZelTreeView::setThumbnailRole(int role)
+{
+    thumbnailRole_ = role;
+}
+
+QSize ZelTreeView::constrained(QSize size) const
+{
+    if (!sizeConstraintText_.isEmpty())
+        size.setWidth(ZelFontMetrics(this).horizontalAdvance(sizeConstraintText_));
+    return size;
+}
+
+QSize ZelTreeView::minimumSizeHint() const
+{
+    return constrained(QTreeView::minimumSizeHint());
+}
+
+QSize ZelTreeView::sizeHint() const
+{
+    return constrained(QTreeView::sizeHint());
+}
+
+QModelIndexList ZelTreeView::draggableIndices() const
+{
+    return ZelItemDrag::draggable(selectedIndexes());
+}
+
+bool ZelTreeView::event(QEvent *event)
+{
+    ZelItemDrag::hearToolTips(
+        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
+        [this] { Q_EMIT toolTipHideRequest(); });
+    return QTreeView::event(event);
+}
+
+void ZelTreeView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (repaintOnMouseMove_)
+        viewport()->update(visualRect(indexAt(event->pos())));
+    QTreeView::mouseMoveEvent(event);
+}
+
+void ZelTreeView::dragEnterEvent(QDragEnterEvent *event)
+{
+    QTreeView::dragEnterEvent(event);
+    if (event->isAccepted())
+        Q_EMIT dragEnter();
+}
+
+void ZelTreeView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QTreeView::dragLeaveEvent(event);
+    if (event->isAccepted())
+        Q_EMIT dragLeave();
+}
+
+void ZelTreeView::dropEvent(QDropEvent *event)
+{
+    const QPointer<ZelTreeView> self(this);
+    if (extendDropToSelection_)
+        dropOnSelection(event);
+    else
+        QTreeView::dropEvent(event);
+    if (self)
+        Q_EMIT dragLeave();
+}
+
+void ZelTreeView::dropOnSelection(QDropEvent *event)
+{
+    const QPointer<ZelTreeView> self(this);
+    const QList<QPersistentModelIndex> targets =
+        ZelItemDrag::targets(this, selectedIndexes(), event);
+    if (!targets.isEmpty()) {
+        Q_EMIT beginDropSelection();
+        const bool isTaken = self && ZelItemDrag::dropOn(model(), event, targets);
+        if (self)
+            Q_EMIT endDropSelection();
+        if (isTaken)
+            event->acceptProposedAction();
+    }
+    if (!self)
+        return;
+    stopAutoScroll();
+    setState(NoState);
+}
+
+void ZelTreeView::startDrag(Qt::DropActions)
+{
+    const QModelIndexList indices = draggableIndices();
+    QMimeData *data = model() && !indices.isEmpty() ? model()->mimeData(indices) : nullptr;
+    if (!data)
+        return;
+    auto *drag = new QDrag(this);
+    drag->setMimeData(data);
+    drag->setPixmap(ZelItemDrag::pictureOf(indices, thumbnailRole_, devicePixelRatioF()));
+    drag->exec(model()->supportedDragActions(), defaultDropAction());
+}
