@@ -44,7 +44,8 @@ void RectItemTest::positionsSnap_data()
     QTest::newRow("top centre") << QPointF(150, 31.5) << all << 0 << 4;
     QTest::newRow("just not at the top") << QPointF(150, 32) << all << 0 << 0;
     QTest::newRow("the centre ends") << QPointF(182, 240) << all << 0 << 0;
-    QTest::newRow("fractions are cut off") << QPointF(181.9, 240) << all << 32 << 0;
+    QTest::newRow("the centre begins") << QPointF(119, 240) << all << 32 << 0;
+    QTest::newRow("fractions are cut off") << QPointF(118.5, 240) << all << 0 << 0;
     QTest::newRow("left") << QPointF(31, 240) << all << 16 << 0;
     QTest::newRow("right") << QPointF(269, 0) << all << 0 << 8;
     QTest::newRow("between") << QPointF(100, 240) << all << 0 << 0;
