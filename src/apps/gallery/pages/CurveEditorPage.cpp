@@ -173,7 +173,7 @@ void CurveEditorPage::addView(QVBoxLayout *section)
 {
     view_ = new ZelCurveView2(this);
     view_->setAccessibleName(tr("Tone curve and falloff"));
-    view_->setMinimumHeight(400);
+    view_->setMinimumHeight(360);
     applyStyle();
     view_->addCurve(tone_);
     view_->addCurve(falloff_);

@@ -5,21 +5,28 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 CurveStrip::CurveStrip(QWidget *parent)
     : QWidget(parent)
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
     row->setSpacing(6);
+    rows->addLayout(row);
     points_ = {addPoint(row, tr("Vertex"), ZelVertexData::Position),
                addPoint(row, tr("Tangent in"), ZelVertexData::InTangent),
                addPoint(row, tr("Tangent out"), ZelVertexData::OutTangent)};
     smooth_ = new QCheckBox(tr("&Smooth"), this);
     gap_ = new QCheckBox(tr("&Gap behind"), this);
-    row->addWidget(smooth_);
-    row->addWidget(gap_);
     row->addStretch(1);
+    auto *switches = new QHBoxLayout;
+    switches->setSpacing(12);
+    switches->addWidget(smooth_);
+    switches->addWidget(gap_);
+    switches->addStretch(1);
+    rows->addLayout(switches);
     connect(smooth_, &QCheckBox::toggled, this, [this](bool on) {
         if (curve_)
             curve_->setSmooth(vertex_, on);
