@@ -136,7 +136,9 @@ void AnimationCurvePage::addView(QVBoxLayout *section)
     section->addLayout(row, 1);
     view_ = new ZelCurveView2(this);
     view_->setAccessibleName(tr("Height of the ball over the time"));
-    view_->setMinimumHeight(380);
+    // By itself a view wants to be as large as its scene at the present zoom.
+    view_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    view_->setMinimumSize(320, 380);
     // The limits of the style have to be there before the curve.
     applyStyle();
     view_->addCurve(model_);
