@@ -264,6 +264,7 @@ void oneMovedOurs(benchmark::State &state)
 {
     const int count = int(state.range(0));
     Ours ours(count);
+    QCoreApplication::processEvents();
     Step step(count);
     for (auto _ : state)
         step.move(ours.model);
@@ -359,6 +360,7 @@ void addAndRemoveOurs(benchmark::State &state)
     for (auto _ : state) {
         ours.model.addVertex(float(count / 2) + 0.5F);
         ours.model.removeVertex(count / 2 + 1);
+        QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

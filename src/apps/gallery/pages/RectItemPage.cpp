@@ -50,24 +50,15 @@ public:
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        text_ = new QGraphicsSimpleTextItem(item_);
+        text_ = new QGraphicsSimpleTextItem(RectItemPage::tr("Drag me"), item_);
         scene()->addItem(item_);
         item_->setFocus();
-        takeColors();
     }
 
     ZelGraphicsRectItem &item() { return *item_; }
 
-    void takeColors()
-    {
-        const QPalette colors = palette();
-        item_->setBrush(colors.color(QPalette::Button));
-        text_->setBrush(colors.color(QPalette::ButtonText));
-        text_->setFont(font());
-        text_->setText(RectItemPage::tr("Drag me"));
-        text_->setPos(item_->rect().center() - text_->boundingRect().center());
-        viewport()->update();
-    }
+    /// That of a view would be its scene's size, which is the view's.
+    QSize sizeHint() const override { return {2 * stageHeight, stageHeight}; }
 
     void setZone(int width)
     {
@@ -82,6 +73,16 @@ protected:
         setSceneRect(QRectF(QPointF(), QSizeF(viewport()->size())));
         scene()->setSceneRect(sceneRect());
         item_->confineToScene();
+    }
+
+    void paintEvent(QPaintEvent *event) override
+    {
+        const QPalette colors = palette();
+        item_->setBrush(colors.color(QPalette::Highlight));
+        text_->setBrush(colors.color(QPalette::HighlightedText));
+        text_->setFont(font());
+        text_->setPos(item_->rect().center() - text_->boundingRect().center());
+        QGraphicsView::paintEvent(event);
     }
 
     void drawBackground(QPainter *painter, const QRectF &) override
@@ -188,9 +189,4 @@ void RectItemPage::showPlace()
     if (shownSnap_ != 0 && shownSnap_ != item.getSnap())
         log(tr("Snap position: %1").arg(name));
     shownSnap_ = item.getSnap();
-}
-
-void RectItemPage::lookChanged()
-{
-    stage_->takeColors();
 }

@@ -14,8 +14,6 @@ class RectItemPage : public GalleryPage
 public:
     explicit RectItemPage(QWidget *parent = nullptr);
 
-    void lookChanged() override;
-
 private:
     class Stage;
 

@@ -39,9 +39,11 @@ QList<QLineF> gapsOf(const QPainterPath &path)
     QList<QLineF> gaps;
     const int count = path.elementCount();
     for (int i = 1; i < count; ++i) {
-        const Element end = path.elementAt(i - 1);
         const Element start = path.elementAt(i);
-        if (start.isMoveTo() && !(isAlmost(end.x, start.x) && isAlmost(end.y, start.y)))
+        if (!start.isMoveTo())
+            continue;
+        const Element end = path.elementAt(i - 1);
+        if (!(isAlmost(end.x, start.x) && isAlmost(end.y, start.y)))
             gaps.append(QLineF(end, start));
     }
     return gaps;
@@ -106,18 +108,64 @@ void ZelCurveScene::Curve::update()
     updateVertices();
 }
 
-/// An item that hands its selection on is heard outside, where vertices may be added or removed;
-/// then it begins again, which costs little for those that are up to date.
 void ZelCurveScene::Curve::updateVertices()
+{
+    const size_t count = inOrder_.size();
+    if (count == 0 || model_->vertexCount() != int(count)) {
+        updateAllVertices();
+        return;
+    }
+    const quint64 changes = vertexChanges_;
+    for (size_t i = 0; i < count; ++i) {
+        const ZelCurveVertexItem::Points now = ZelCurveVertexItem::points(*model_, int(i));
+        if (now == shown_[i])
+            continue;
+        shown_[i] = now;
+        inOrder_[i]->update();
+        if (changes != vertexChanges_) {
+            updateAllVertices();
+            return;
+        }
+    }
+}
+
+/// An item that hands its selection on is heard outside, where vertices may be added or removed;
+/// then this begins again, which costs little for those that are up to date.
+void ZelCurveScene::Curve::updateAllVertices()
 {
     const quint64 changes = vertexChanges_;
     for (const auto &[handle, item] : vertices_) {
         item->update();
         if (changes != vertexChanges_) {
-            updateVertices();
+            updateAllVertices();
             return;
         }
     }
+    learnOrder();
+}
+
+void ZelCurveScene::Curve::learnOrder()
+{
+    onVertexCameOrWent();
+    if (!vertexHandler_)
+        return;
+    for (const ZelVertexHandle &handle : *vertexHandler_) {
+        ZelCurveVertexItem *item = vertexItem(handle);
+        // The model may have changed further in a signal that this curve hears later.
+        if (!item || handle.index() != int(inOrder_.size())) {
+            onVertexCameOrWent();
+            return;
+        }
+        inOrder_.push_back(item);
+        shown_.push_back(item->shown());
+    }
+}
+
+void ZelCurveScene::Curve::onVertexCameOrWent()
+{
+    ++vertexChanges_;
+    inOrder_.clear();
+    shown_.clear();
 }
 
 void ZelCurveScene::Curve::updatePath()
@@ -188,7 +236,7 @@ void ZelCurveScene::Curve::addVertex(ZelVertexHandle handle)
         !ZEL_SOFT_ASSERT(!orv::contains(vertices_, handle), "!orv::contains(vertices_, handle)",
                          "addVertex", file, 411))
         return;
-    ++vertexChanges_;
+    onVertexCameOrWent();
     vertices_.try_emplace(handle, new ZelCurveVertexItem(handle, scene_, style_, this));
 }
 
@@ -199,14 +247,14 @@ void ZelCurveScene::Curve::removeVertex(ZelVertexHandle handle)
         !ZEL_SOFT_ASSERT(orv::contains(vertices_, handle), "orv::contains(vertices_, handle)",
                          "removeVertex", file, 401))
         return;
-    ++vertexChanges_;
+    onVertexCameOrWent();
     vertices_.erase(handle);
 }
 
 /// What is left of the curve is a line that belongs to nothing.
 void ZelCurveScene::Curve::onModelDestroyed()
 {
-    ++vertexChanges_;
+    onVertexCameOrWent();
     vertices_.clear();
     if (!scene_)
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "curve/ZelCurveVertexItem.h"
 #include "curve/ZelFixedLineWidthItem.h"
 
 #include <ZelCore/ZelPersistentVertexHandler>
@@ -10,8 +11,7 @@
 
 #include <memory>
 #include <unordered_map>
-
-class ZelCurveVertexItem;
+#include <vector>
 
 /// One curve in the scene: its line, connectors across its gaps, and its vertices.
 class ZelCurveScene::Curve : public QObject
@@ -47,6 +47,9 @@ private:
     QPen curvePen() const;
     void updatePath();
     void updateVertices();
+    void updateAllVertices();
+    void learnOrder();
+    void onVertexCameOrWent();
     void updateGaps();
     void setGapCount(int count);
     void onModelDestroyed();
@@ -60,5 +63,9 @@ private:
     std::unordered_map<ZelVertexHandle, std::unique_ptr<ZelCurveVertexItem, DeleteLater>> vertices_;
     /// How often one came or went.
     quint64 vertexChanges_ = 0;
+    // The vertices and what they show, in the model's order and close together in memory: at each
+    // change the model is compared with them. Empty while the order is not known.
+    std::vector<ZelCurveVertexItem *> inOrder_;
+    std::vector<ZelCurveVertexItem::Points> shown_;
     QList<PathItem *> gapItems_;
 };

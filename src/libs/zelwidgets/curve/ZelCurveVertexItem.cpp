@@ -20,11 +20,14 @@ bool isFinite(QPointF point)
 }
 
 /// The point, if the vertex has it and it can be shown.
-bool read(const ZelVertexHandle &handle, ZelVertexData key, QPointF &point)
+bool read(const ZelCurveModel &model, int index, ZelVertexData key, QPointF &point)
 {
-    if (!handle.hasData(key))
+    const QVariant data = model.vertexData(index, key);
+    if (!data.isValid())
         return false;
-    point = handle.data(key).toPointF();
+    point = data.metaType() == QMetaType::fromType<QPointF>()
+                ? *static_cast<const QPointF *>(data.constData())
+                : data.toPointF();
     return isFinite(point);
 }
 
@@ -114,17 +117,17 @@ ZelCurveVertexItem::Marker *ZelCurveVertexItem::marker(ZelVertexData key) const
     return marker_;
 }
 
-ZelCurveVertexItem::Points ZelCurveVertexItem::points() const
+ZelCurveVertexItem::Points ZelCurveVertexItem::points(const ZelCurveModel &model, int index)
 {
     Points points;
-    points.hasPosition = read(handle_, ZelVertexData::Position, points.position);
+    points.hasPosition = read(model, index, ZelVertexData::Position, points.position);
     if (!points.hasPosition)
         return points;
     // A tangent as long as nothing has no handle.
     points.hasIn =
-        read(handle_, ZelVertexData::InTangent, points.in) && points.in != points.position;
+        read(model, index, ZelVertexData::InTangent, points.in) && points.in != points.position;
     points.hasOut =
-        read(handle_, ZelVertexData::OutTangent, points.out) && points.out != points.position;
+        read(model, index, ZelVertexData::OutTangent, points.out) && points.out != points.position;
     return points;
 }
 
@@ -132,7 +135,7 @@ void ZelCurveVertexItem::update()
 {
     if (!ZEL_SOFT_ASSERT(handle_.isValid(), "handle_.isValid()", "update", file, 258))
         return;
-    const Points now = points();
+    const Points now = points(*handle_.model(), handle_.index());
     if (isUpToDate_ && now == shown_)
         return;
     shown_ = now;

@@ -28,21 +28,6 @@ public:
     class IMarker;
     class Marker;
 
-    /// The style is not owned and outlives the item.
-    ZelCurveVertexItem(const ZelVertexHandle &handle, QGraphicsScene *scene,
-                       const ZelCurveView2Style *style, QObject *parent = nullptr);
-    /// Takes the items out of the scene; they are deleted from the event loop.
-    ~ZelCurveVertexItem() override;
-
-    ZelVertexHandle handle() const { return handle_; }
-    /// The marker of this point, whether it is shown or not.
-    Marker *marker(ZelVertexData key) const;
-
-    /// Moves the items to where the vertex is now.
-    void update();
-    void onStyleUpdated();
-
-private:
     /// What the items show of the vertex.
     struct Points
     {
@@ -57,7 +42,25 @@ private:
         bool operator==(const Points &other) const;
     };
 
-    Points points() const;
+    /// What a model says of its vertex with this index.
+    static Points points(const ZelCurveModel &model, int index);
+
+    /// The style is not owned and outlives the item.
+    ZelCurveVertexItem(const ZelVertexHandle &handle, QGraphicsScene *scene,
+                       const ZelCurveView2Style *style, QObject *parent = nullptr);
+    /// Takes the items out of the scene; they are deleted from the event loop.
+    ~ZelCurveVertexItem() override;
+
+    ZelVertexHandle handle() const { return handle_; }
+    /// The marker of this point, whether it is shown or not.
+    Marker *marker(ZelVertexData key) const;
+
+    const Points &shown() const { return shown_; }
+    /// Moves the items to where the vertex is now.
+    void update();
+    void onStyleUpdated();
+
+private:
     void showTangent(Anchor &anchor, Marker &tangentMarker,
                      FixedLineWidthItem<QGraphicsLineItem> &line, bool shown, QPointF end);
     bool isAnySelected() const;
