@@ -60,8 +60,8 @@ void TestGridPositions::spacingIsTheLeastWideEnough()
         QVERIFY(std::abs(steps - std::round(steps)) < 1e-9 * steps);
         QVERIFY(steps * stepPixels >= minPixels * (1 - 1e-8));
         QVERIFY(steps < 1.5 || (steps - 1) * stepPixels < minPixels * (1 + 1e-8));
-        // Four pixels a unit: five units are just enough, whatever the last digit of the width.
-        QCOMPARE(ZelGridLines::spacing(i * 0.1 + 0.1, (i * 0.1 + 0.1) * 4, 1, 20), 5.0);
+        // Three units are just enough, whatever the last digit of the width.
+        QCOMPARE(ZelGridLines::spacing(sceneSize, sceneSize * (20.0 / 3), 1, 20), 3.0);
     }
 }
 

@@ -29,8 +29,8 @@ std::vector<float> positions(double from, double to, double spacing)
     std::vector<float> result;
     result.reserve(size_t(count));
     for (int i = 0; i < int(count); ++i) {
-        // The sum makes a plain 0 of a negative one, which would be written with its sign.
-        const double position = (first + i) * spacing + 0.0;
+        // A first one of -0 loses its sign by the sum; it would be written with it.
+        const double position = (first + i) * spacing;
         if (std::abs(position) <= limit)
             result.push_back(float(position));
     }
