@@ -235,6 +235,9 @@ void CurveEditorPage::lookChanged()
 {
     applyStyle();
     addDecorators();
+    // The connectors of gaps keep their look until the curve changes.
+    for (ZelBezierCurveModel *curve : {tone_, falloff_})
+        Q_EMIT curve->changed();
 }
 
 void CurveEditorPage::applyStyle()
