@@ -253,10 +253,12 @@ private Q_SLOTS:
         Desk desk;
         QSignalSpy changes(&desk.editor, &ZelCurveView2::visibleAreaChanged);
         const QTransform before = desk.graphics->transform();
+        const QSize hint = desk.editor.sizeHint();
         const QPointF cursor = modifiers ? QPointF(200, 150) : QPointF(300, 40);
         const QPointF under = desk.graphics->viewportTransform().inverted().map(cursor);
         QVERIFY(desk.wheel(angle, QPointF(300, 40), modifiers));
         QCOMPARE(changes.size(), 1);
+        QCOMPARE(desk.editor.sizeHint(), hint);
         const QTransform after = desk.graphics->transform();
         const double factor = double(ZelCurveViewMath::wheelFactor(120));
         QCOMPARE(after.m11() / before.m11(), zoomsX ? factor : 1.0);

@@ -11,6 +11,7 @@
 #include "pages/ColorWidgetsPage.h"
 #include "pages/ConflictsPage.h"
 #include "pages/CropPage.h"
+#include "pages/CurveEditorPage.h"
 #include "pages/DialogsPage.h"
 #include "pages/DialsPage.h"
 #include "pages/FieldsPage.h"
@@ -24,6 +25,7 @@
 #include "pages/MessageBoxesPage.h"
 #include "pages/MouseGesturesPage.h"
 #include "pages/NotificationsPage.h"
+#include "pages/OldCurvePage.h"
 #include "pages/ParameterPanelPage.h"
 #include "pages/PlainWidgetsPage.h"
 #include "pages/ProgressPage.h"
@@ -142,10 +144,16 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},
+        {QStringLiteral("curves"), text("Curve editor"),
+         text(
+             "Two curves with gaps and tangents, decorators, context actions, exact numbers, undo"),
+         QStringLiteral("sliders"), &make<CurveEditorPage>},
         {QStringLiteral("animationcurve"), text("Animation curve"),
          text("A recorded motion that a curve follows, played while it is edited"),
          QStringLiteral("play"), &make<AnimationCurvePage>},
-
+        {QStringLiteral("oldcurve"), text("Old curve view"),
+         text("The simple view: vertices to be dragged, grid, frame and line"),
+         QStringLiteral("sliders"), &make<OldCurvePage>},
         {QStringLiteral("rectitem"), text("Rect item and snapping"),
          text("A rectangle that is dragged over a view and snaps to its corners and edges"),
          QStringLiteral("window_collapse"), &make<RectItemPage>},

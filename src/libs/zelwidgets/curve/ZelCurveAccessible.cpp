@@ -4,6 +4,7 @@
 
 #include <ZelWidgets/ZelCurveGraphicsView>
 #include <ZelWidgets/ZelCurveScene>
+#include <ZelWidgets/ZelCurveView2>
 
 #include <QLocale>
 
@@ -26,6 +27,14 @@ ZelCurveGraphicsView *AccessibleCurveMarkers::view() const
 ZelCurvePointHandle AccessibleCurveMarkers::pointAt(int index) const
 {
     return view()->markers_->list(view()->scene_).value(index);
+}
+
+QString AccessibleCurveMarkers::text(QAccessible::Text kind) const
+{
+    const auto *editor = qobject_cast<const ZelCurveView2 *>(view()->parentWidget());
+    const bool isNamed = editor && !editor->accessibleName().isEmpty();
+    return isNamed && kind == QAccessible::Name ? editor->accessibleName()
+                                                : ZelAccessibleParts::text(kind);
 }
 
 int AccessibleCurveMarkers::partCount() const

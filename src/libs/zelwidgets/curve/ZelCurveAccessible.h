@@ -13,6 +13,8 @@ class AccessibleCurveMarkers : public ZelAccessibleParts
 public:
     explicit AccessibleCurveMarkers(QWidget *view);
 
+    /// The name that the editor around the view was given comes first.
+    QString text(QAccessible::Text kind) const override;
     int partCount() const override;
     Part part(int index) const override;
     int currentPart() const override;

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr char path[] = "src/libs/zelwidgets/curve/ZelCurveGraphicsView";
+constexpr QSize usualSize(30, 18);
 
 } // namespace
 
@@ -69,6 +70,11 @@ void ZelCurveGraphicsView::onStyleUpdated()
 std::shared_ptr<ZelCurveModel::ViewTransform> ZelCurveGraphicsView::viewTransform() const
 {
     return std::make_shared<ViewTransform>(transform());
+}
+
+QSize ZelCurveGraphicsView::sizeHint() const
+{
+    return usualSize * fontMetrics().height();
 }
 
 bool ZelCurveGraphicsView::isValid() const

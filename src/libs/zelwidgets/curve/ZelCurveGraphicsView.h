@@ -52,6 +52,9 @@ public:
     /// How the view stretches its axes at present.
     std::shared_ptr<ZelCurveModel::ViewTransform> viewTransform() const;
 
+    /// In heights of the font, whatever is shown: zooming doesn't move layouts.
+    QSize sizeHint() const override;
+
 public Q_SLOTS:
     /// Fits the view anew after the style record has changed.
     void onStyleUpdated();
