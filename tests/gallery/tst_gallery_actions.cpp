@@ -63,6 +63,9 @@ bool hasRightRole(QAccessibleInterface *access, const QWidget *widget)
                                                     QAccessible::RadioButton};
         return roles.contains(role) && (role == QAccessible::Button || access->state().checkable);
     }
+    // Qt tells no role of its graphics view.
+    if (qstrcmp(widget->metaObject()->className(), "QGraphicsView") == 0)
+        return true;
     if (access->state().editable && role == QAccessible::StaticText)
         return false;
     static const QList<QAccessible::Role> vague{QAccessible::NoRole, QAccessible::Client,

@@ -124,6 +124,7 @@ QWidget *HeadersPage::persistentTable()
     view->setSortingEnabled(true);
     view->verticalHeader()->hide();
     view->setFixedHeight(tableHeight);
+    view->setTabKeyNavigation(false);
     return view;
 }
 
@@ -134,6 +135,7 @@ QWidget *HeadersPage::dragTable()
     view->setModel(layers_);
     view->horizontalHeader()->setStretchLastSection(true);
     view->setFixedHeight(tableHeight);
+    view->setTabKeyNavigation(false);
     connect(view->dragHeader(), &QHeaderView::sectionMoved, this, [this](int layer, int, int to) {
         log(tr("%1 is number %2 now").arg(layers_->item(layer)->text()).arg(to + 1));
     });

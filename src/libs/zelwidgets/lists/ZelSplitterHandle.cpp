@@ -1,5 +1,6 @@
 #include "ZelSplitterHandle.h"
 
+#include "ZelAccessibleValue.h"
 #include "ZelFocusFrame.h"
 
 #include <QApplication>
@@ -21,6 +22,14 @@ QString iconFile(Qt::Orientation orientation)
                : QStringLiteral(":ui/widgetIcons/splitter_horizontal.zelsvg");
 }
 
+class AccessibleHandle : public QAccessibleWidget
+{
+public:
+    explicit AccessibleHandle(QWidget *handle)
+        : QAccessibleWidget(handle, QAccessible::Splitter)
+    {}
+};
+
 } // namespace
 
 ZelSplitterHandle::ZelSplitterHandle(Qt::Orientation orientation, QWidget *parent)
@@ -28,6 +37,7 @@ ZelSplitterHandle::ZelSplitterHandle(Qt::Orientation orientation, QWidget *paren
     , orientation_(orientation)
     , icon_(iconFile(orientation))
 {
+    ZelAccessibleValue::serve<AccessibleHandle, ZelSplitterHandle>();
     setSizePolicy(makeSizePolicy(orientation));
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Splitter"));
