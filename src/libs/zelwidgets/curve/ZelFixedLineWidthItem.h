@@ -60,6 +60,8 @@ public:
         unscalePenWidth(painter, ZelScaleMethod::Max);
         painter->setRenderHint(QPainter::Antialiasing);
         T::paint(painter, option, widget);
+        // Views don't save the painter's state between items.
+        painter->setRenderHint(QPainter::Antialiasing, false);
     }
 
 private:

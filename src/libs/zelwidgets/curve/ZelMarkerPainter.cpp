@@ -26,6 +26,7 @@ void paintShape(QPainter &painter, const ZelMarkerLook &look)
     painter.setPen(QPen(QColor::fromRgba(look.pen), look.penWidth));
     painter.setBrush(QColor::fromRgba(look.brush));
     painter.drawPath(zelMarkerPath(look.isRound, look.size));
+    painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 /// 1 or 2 where pixmaps can be laid on the device pixel by pixel, else 0.
