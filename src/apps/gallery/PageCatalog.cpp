@@ -17,6 +17,7 @@
 #include "pages/GradientPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/HeadersPage.h"
+#include "pages/IconListPage.h"
 #include "pages/IconsPage.h"
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
@@ -32,6 +33,7 @@
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
+#include "pages/TreePage.h"
 #include "pages/VideoFramesPage.h"
 #include "pages/WindowsPage.h"
 
@@ -140,6 +142,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("gradient"), text("Gradient"),
          text("Stops, opacity, slopes and colours of a gradient, live in two editors"),
          QStringLiteral("sliders"), &make<GradientPage>},
+        {QStringLiteral("iconlist"), text("Icon list"),
+         text("Thumbnails by the ten thousand: zoom, rename, copy, drag out and in"),
+         QStringLiteral("icons"), &make<IconListPage>},
+        {QStringLiteral("tree"), text("Tree"),
+         text("A scene whose objects are locked, hidden and given materials"),
+         QStringLiteral("list_toggle_mode"), &make<TreePage>},
         {QStringLiteral("headers"), text("Headers and splitters"),
          text("Columns, rows, sizes and heights as they are left, side bars"),
          QStringLiteral("sliders"), &make<HeadersPage>},

@@ -117,8 +117,10 @@ void ZelTreeItemDelegate::paintIcons(QPainter *painter, const QRect &row,
         const bool isReplaced = entry.alwaysVisible && isActive && !entry.activeIcon.isNull();
         const bool isHot = isFramed(at, index) || iconRect(at, row).contains(cursor);
         if (isFramed(at, index)) {
+            painter->save();
             painter->setPen(view_->palette().color(QPalette::Link));
             painter->drawRect(QRect(QPoint(x, y), iconSize_).adjusted(-1, -1, 0, 0));
+            painter->restore();
         }
         x = paintIcon(painter, isReplaced ? entry.activeIcon : entry.icon, x, y,
                       isHot ? QIcon::Active : QIcon::Normal);
