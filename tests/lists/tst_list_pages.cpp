@@ -31,13 +31,18 @@ namespace {
 
 using Data = std::unique_ptr<QMimeData>;
 
-bool drop(QAbstractItemView *view, QPoint at, const QMimeData *data)
+/// File managers propose to move, our own lists to copy.
+bool drop(QAbstractItemView *view, QPoint at, const QMimeData *data,
+          Qt::DropAction proposed = Qt::CopyAction)
 {
-    QDragEnterEvent enter(at, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    constexpr Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(at, actions, data, Qt::LeftButton, Qt::NoModifier);
+    enter.setDropAction(proposed);
     QCoreApplication::sendEvent(view->viewport(), &enter);
-    QDragMoveEvent move(at, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(view->viewport(), &move);
-    QDropEvent event(at, Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent event(at, actions, data, Qt::LeftButton, Qt::NoModifier);
+    event.setDropAction(proposed);
     event.ignore();
     QCoreApplication::sendEvent(view->viewport(), &event);
     return event.isAccepted();
@@ -190,7 +195,7 @@ void ListPagesTest::listsTakeMaterialsAndFiles()
     QVERIFY(drop(&list, {10, 10}, materials.get()));
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(path), QUrl(QStringLiteral("https://example.org/a"))});
-    QVERIFY(drop(&list, {10, 10}, &files));
+    QVERIFY(drop(&list, {10, 10}, &files, Qt::MoveAction));
     QCOMPARE(list.count(), 4);
     QCOMPARE(said.size(), 2);
     const auto photos = list.findItems(QStringLiteral("photo.png"), Qt::MatchExactly);

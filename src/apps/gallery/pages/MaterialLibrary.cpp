@@ -29,7 +29,7 @@ struct Kind
 };
 
 constexpr std::array kindTable{
-    Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Car paint"), Flakes, 0, 360, 210, 0.1},
+    Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Paint"), Flakes, 0, 360, 210, 0.1},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Ceramic"), Plain, 0, 360, 90, 0.2},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Fabric"), Checks, 0, 360, 150, 0.9},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Marble"), Veins, 20, 60, 40, 0.3},

@@ -49,6 +49,13 @@ QIcon iconOfFile(const QString &path)
                                  : QStringLiteral(":/ui/icons/book.svg"));
 }
 
+/// File managers propose to move; nothing is moved into a list.
+void copyOnly(QDropEvent *event)
+{
+    if (event->possibleActions().testFlag(Qt::CopyAction))
+        event->setDropAction(Qt::CopyAction);
+}
+
 /// The list's own tool tip: a large picture with its figures.
 class MaterialTip : public QFrame
 {
@@ -229,8 +236,15 @@ Qt::DropActions MaterialList::supportedDropActions() const
     return Qt::CopyAction;
 }
 
+void MaterialList::dragEnterEvent(QDragEnterEvent *event)
+{
+    copyOnly(event);
+    ZelIconListWidget::dragEnterEvent(event);
+}
+
 void MaterialList::dragMoveEvent(QDragMoveEvent *event)
 {
+    copyOnly(event);
     ZelIconListWidget::dragMoveEvent(event);
     if (event->source() == this)
         event->ignore();
@@ -238,6 +252,7 @@ void MaterialList::dragMoveEvent(QDragMoveEvent *event)
 
 void MaterialList::dropEvent(QDropEvent *event)
 {
+    copyOnly(event);
     if (event->source() == this)
         event->ignore();
     else

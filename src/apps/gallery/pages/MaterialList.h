@@ -33,6 +33,7 @@ protected:
     QMimeData *mimeData(const QList<QListWidgetItem *> &items) const override;
     bool dropMimeData(int index, const QMimeData *data, Qt::DropAction action) override;
     Qt::DropActions supportedDropActions() const override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
