@@ -45,7 +45,7 @@ bool drop(QAbstractItemView *view, QPoint at, const QMimeData *data,
     event.setDropAction(proposed);
     event.ignore();
     QCoreApplication::sendEvent(view->viewport(), &event);
-    return event.isAccepted();
+    return event.isAccepted() && event.dropAction() == Qt::CopyAction;
 }
 
 template <typename List>

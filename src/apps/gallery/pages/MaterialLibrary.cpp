@@ -29,11 +29,11 @@ struct Kind
 };
 
 constexpr std::array kindTable{
-    Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Paint"), Flakes, 0, 360, 210, 0.1},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Ceramic"), Plain, 0, 360, 90, 0.2},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Fabric"), Checks, 0, 360, 150, 0.9},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Marble"), Veins, 20, 60, 40, 0.3},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Metal"), Grain, 200, 40, 25, 0.25},
+    Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Paint"), Flakes, 0, 360, 210, 0.1},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Plastic"), Plain, 0, 360, 190, 0.5},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Stone"), Flakes, 25, 30, 50, 0.8},
     Kind{QT_TRANSLATE_NOOP("MaterialLibrary", "Wood"), Grain, 18, 22, 150, 0.7},

@@ -257,6 +257,8 @@ void MaterialList::dropEvent(QDropEvent *event)
         event->ignore();
     else
         ZelIconListWidget::dropEvent(event);
+    // Qt takes what was proposed, and who hears of a move deletes the files.
+    copyOnly(event);
 }
 
 bool MaterialList::dropMimeData(int, const QMimeData *data, Qt::DropAction)
@@ -267,7 +269,7 @@ bool MaterialList::dropMimeData(int, const QMimeData *data, Qt::DropAction)
         return false;
     addMaterials(numbers);
     addFiles(urls);
-    Q_EMIT said(tr("%1: %2 materials and %3 files dropped")
+    Q_EMIT said(tr("%1: materials dropped: %2, files dropped: %3")
                     .arg(accessibleName())
                     .arg(numbers.size())
                     .arg(urls.size()));
