@@ -123,6 +123,7 @@ QWidget *HeadersPage::persistentTable()
     view->setModel(materials_);
     view->setSortingEnabled(true);
     view->verticalHeader()->hide();
+    view->setTabKeyNavigation(false);
     view->setFixedHeight(tableHeight);
     return view;
 }
@@ -133,6 +134,7 @@ QWidget *HeadersPage::dragTable()
     view->setAccessibleName(tr("Layers"));
     view->setModel(layers_);
     view->horizontalHeader()->setStretchLastSection(true);
+    view->setTabKeyNavigation(false);
     view->setFixedHeight(tableHeight);
     connect(view->dragHeader(), &QHeaderView::sectionMoved, this, [this](int layer, int, int to) {
         log(tr("%1 is number %2 now").arg(layers_->item(layer)->text()).arg(to + 1));
