@@ -2,6 +2,7 @@
 
 #include "ZelFocusFrame.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,6 +22,12 @@ QString iconFile(Qt::Orientation orientation)
                : QStringLiteral(":ui/widgetIcons/splitter_horizontal.zelsvg");
 }
 
+QAccessibleInterface *accessibleHandle(const QString &, QObject *object)
+{
+    auto *handle = qobject_cast<ZelSplitterHandle *>(object);
+    return handle ? new QAccessibleWidget(handle, QAccessible::Grip) : nullptr;
+}
+
 } // namespace
 
 ZelSplitterHandle::ZelSplitterHandle(Qt::Orientation orientation, QWidget *parent)
@@ -28,6 +35,7 @@ ZelSplitterHandle::ZelSplitterHandle(Qt::Orientation orientation, QWidget *paren
     , orientation_(orientation)
     , icon_(iconFile(orientation))
 {
+    QAccessible::installFactory(accessibleHandle);
     setSizePolicy(makeSizePolicy(orientation));
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Splitter"));
