@@ -8,6 +8,7 @@
 #include "curve/ZelCurveViewMath.h"
 
 #include <ZelCore/ZelBezierCurveModel>
+#include <ZelWidgets/ZelAxisDecorator>
 #include <ZelWidgets/ZelCurveScene>
 #include <ZelWidgets/ZelCurveView2>
 #include <ZelWidgets/ZelCurveViewDecorator2>
@@ -16,6 +17,7 @@
 #include <QContextMenuEvent>
 #include <QCursor>
 #include <QMenu>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -142,6 +144,25 @@ class CurveViewTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void aPartIsRepaintedAsTheWhole()
+    {
+        Desk desk;
+        desk.editor.addDecoratorToBackground(new ZelAxisDecorator);
+        QVERIFY(QTest::qWaitForWindowExposed(&desk.editor));
+        QCoreApplication::processEvents();
+        const auto shown = [&desk] {
+            const QRect place(desk.graphics->mapToGlobal(QPoint(0, 0)), desk.graphics->size());
+            return desk.editor.screen()->grabWindow(0).toImage().copy(place);
+        };
+        desk.press(1);
+        desk.moveBy(desk.pixel(1), QPoint(9, -14));
+        desk.release();
+        QCoreApplication::processEvents();
+        const QImage piecewise = shown();
+        QVERIFY(piecewise.convertToFormat(QImage::Format_Indexed8).colorCount() > 2);
+        desk.graphics->viewport()->repaint();
+        QCOMPARE(piecewise, shown());
+    }
     void arithmetic()
     {
         using namespace ZelCurveViewMath;

@@ -98,6 +98,7 @@ private Q_SLOTS:
     void init();
     void iconsFollowTheirRoles();
     void clicksGoByFixedPlaces();
+    void iconsAreAtTheLeftWhereOneReadsFromTheRight();
     void keysGoFromIconToIcon();
     void lockedRowsArePaintedDisabled();
     void widthFollowsAText();
@@ -134,6 +135,21 @@ void TreeViewTest::clicksGoByFixedPlaces()
     forest.click(forest.place(2, 0));
     QCOMPARE(forest.delegate.clicks,
              (QStringList{QStringLiteral("0 of 1"), QStringLiteral("1 of 1")}));
+}
+
+void TreeViewTest::iconsAreAtTheLeftWhereOneReadsFromTheRight()
+{
+    Forest forest;
+    forest.view.setLayoutDirection(Qt::RightToLeft);
+    const auto mirrored = [&](int row, int icon) {
+        const QPoint place = forest.place(row, icon);
+        return QPoint(forest.row(row).left() + forest.row(row).right() - place.x(), place.y());
+    };
+    QCOMPARE(forest.colorAt(mirrored(0, 0)), QColor(Qt::green));
+    QVERIFY(forest.colorAt(forest.place(0, 0)) != QColor(Qt::green));
+    forest.click(forest.place(1, 1));
+    forest.click(mirrored(1, 1));
+    QCOMPARE(forest.delegate.clicks, QStringList{QStringLiteral("1 of 1")});
 }
 
 void TreeViewTest::keysGoFromIconToIcon()

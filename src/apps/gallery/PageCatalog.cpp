@@ -19,6 +19,7 @@
 #include "pages/GradientPage.h"
 #include "pages/GroupingPage.h"
 #include "pages/HeadersPage.h"
+#include "pages/IconListPage.h"
 #include "pages/IconsPage.h"
 #include "pages/LabelsPage.h"
 #include "pages/MenusPage.h"
@@ -36,6 +37,7 @@
 #include "pages/StyleSheetPage.h"
 #include "pages/TextsPage.h"
 #include "pages/ThemePage.h"
+#include "pages/TreePage.h"
 #include "pages/VideoFramesPage.h"
 #include "pages/WindowsPage.h"
 
@@ -157,6 +159,12 @@ const QList<PageEntry> &pageCatalog()
         {QStringLiteral("rectitem"), text("Rect item and snapping"),
          text("A rectangle that is dragged over a view and snaps to its corners and edges"),
          QStringLiteral("window_collapse"), &make<RectItemPage>},
+        {QStringLiteral("iconlist"), text("Icon list"),
+         text("Thumbnails by the ten thousand: zoom, rename, copy, drag out and in"),
+         QStringLiteral("icons"), &make<IconListPage>},
+        {QStringLiteral("tree"), text("Tree"),
+         text("A scene whose objects are locked, hidden and given materials"),
+         QStringLiteral("list_toggle_mode"), &make<TreePage>},
         {QStringLiteral("headers"), text("Headers and splitters"),
          text("Columns, rows, sizes and heights as they are left, side bars"),
          QStringLiteral("sliders"), &make<HeadersPage>},

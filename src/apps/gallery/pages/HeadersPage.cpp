@@ -123,8 +123,8 @@ QWidget *HeadersPage::persistentTable()
     view->setModel(materials_);
     view->setSortingEnabled(true);
     view->verticalHeader()->hide();
-    view->setFixedHeight(tableHeight);
     view->setTabKeyNavigation(false);
+    view->setFixedHeight(tableHeight);
     return view;
 }
 
@@ -134,8 +134,8 @@ QWidget *HeadersPage::dragTable()
     view->setAccessibleName(tr("Layers"));
     view->setModel(layers_);
     view->horizontalHeader()->setStretchLastSection(true);
-    view->setFixedHeight(tableHeight);
     view->setTabKeyNavigation(false);
+    view->setFixedHeight(tableHeight);
     connect(view->dragHeader(), &QHeaderView::sectionMoved, this, [this](int layer, int, int to) {
         log(tr("%1 is number %2 now").arg(layers_->item(layer)->text()).arg(to + 1));
     });

@@ -43,8 +43,6 @@ ZelCurveGraphicsView::ZelCurveGraphicsView(ZelCurveScene *scene, QWidget *parent
         connect(scene, &QGraphicsScene::selectionChanged, this,
                 &ZelCurveGraphicsView::announceSelection);
     }
-    // Each item sets what it paints with.
-    setOptimizationFlags(DontSavePainterState | DontAdjustForAntialiasing);
     setAlignment(Qt::AlignLeft);
     setContentsMargins(0, 0, 0, 0);
     setFrameStyle(QFrame::Box);

@@ -89,10 +89,13 @@ bool ZelIconListWidget::event(QEvent *event)
 void ZelIconListWidget::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && currentItem() && state() != EditingState)
-        adapter_->openItem(currentItem());
-    else
-        ZelListWidgetWithZoom::keyPressEvent(event);
+    const bool opens = isReturn && currentItem() && state() != EditingState;
+    const QPointer<ZelIconListWidget> self(this);
+    ZelListWidgetWithZoom::keyPressEvent(event);
+    if (!self || !opens || !currentItem())
+        return;
+    event->accept();
+    adapter_->openItem(currentItem());
 }
 
 // Mouse

@@ -1,8 +1,8 @@
 #include "ZelSplitterHandle.h"
 
-#include "ZelAccessibleValue.h"
 #include "ZelFocusFrame.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -22,13 +22,11 @@ QString iconFile(Qt::Orientation orientation)
                : QStringLiteral(":ui/widgetIcons/splitter_horizontal.zelsvg");
 }
 
-class AccessibleHandle : public QAccessibleWidget
+QAccessibleInterface *accessibleHandle(const QString &, QObject *object)
 {
-public:
-    explicit AccessibleHandle(QWidget *handle)
-        : QAccessibleWidget(handle, QAccessible::Splitter)
-    {}
-};
+    auto *handle = qobject_cast<ZelSplitterHandle *>(object);
+    return handle ? new QAccessibleWidget(handle, QAccessible::Grip) : nullptr;
+}
 
 } // namespace
 
@@ -37,7 +35,7 @@ ZelSplitterHandle::ZelSplitterHandle(Qt::Orientation orientation, QWidget *paren
     , orientation_(orientation)
     , icon_(iconFile(orientation))
 {
-    ZelAccessibleValue::serve<AccessibleHandle, ZelSplitterHandle>();
+    QAccessible::installFactory(accessibleHandle);
     setSizePolicy(makeSizePolicy(orientation));
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Splitter"));

@@ -64,9 +64,15 @@ int ZelTreeItemDelegate::iconVerticalOffset(QRect const &row) const
 
 QRect ZelTreeItemDelegate::iconRect(std::size_t icon, QRect const &row) const
 {
-    return {
-        QPoint(firstIconHorizontalOffset(row) - iconSpacing() * int(icon), iconVerticalOffset(row)),
-        iconSize_};
+    const QPoint place(firstIconHorizontalOffset(row) - iconSpacing() * int(icon),
+                       iconVerticalOffset(row));
+    return mirrored(QRect(place, iconSize_), row);
+}
+
+/// Rows that are read from the right have their icons at the left.
+QRect ZelTreeItemDelegate::mirrored(const QRect &icon, const QRect &row) const
+{
+    return view_ ? QStyle::visualRect(view_->layoutDirection(), row, icon) : icon;
 }
 
 bool ZelTreeItemDelegate::isIconActive(std::size_t icon, QModelIndex const &index) const
@@ -116,12 +122,16 @@ void ZelTreeItemDelegate::paintIcons(QPainter *painter, const QRect &row,
             continue;
         const bool isReplaced = entry.alwaysVisible && isActive && !entry.activeIcon.isNull();
         const bool isHot = isFramed(at, index) || iconRect(at, row).contains(cursor);
+        const QRect place = mirrored(QRect(QPoint(x, y), iconSize_), row);
         if (isFramed(at, index)) {
+            painter->save();
             painter->setPen(view_->palette().color(QPalette::Link));
-            painter->drawRect(QRect(QPoint(x, y), iconSize_).adjusted(-1, -1, 0, 0));
+            painter->drawRect(place.adjusted(-1, -1, 0, 0));
+            painter->restore();
         }
-        x = paintIcon(painter, isReplaced ? entry.activeIcon : entry.icon, x, y,
-                      isHot ? QIcon::Active : QIcon::Normal);
+        const int next = paintIcon(painter, isReplaced ? entry.activeIcon : entry.icon, place.x(),
+                                   y, isHot ? QIcon::Active : QIcon::Normal);
+        x += next - place.x();
     }
 }
 
@@ -174,8 +184,9 @@ bool ZelTreeItemDelegate::keyPressed(QKeyEvent *event)
     const bool isStep = event->modifiers() == Qt::AltModifier &&
                         (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right);
     if (isStep) {
-        // The first icon is the rightmost one.
-        const int step = event->key() == Qt::Key_Left ? 1 : -1;
+        // The first icon is the outermost one.
+        const Qt::Key inwards = view_->isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
+        const int step = event->key() == inwards ? 1 : -1;
         frame(framed_ < 0 ? (step > 0 ? 0 : count - 1) : (framed_ + step + count) % count);
         return true;
     }

@@ -11,7 +11,7 @@
 
 class QAbstractItemView;
 
-/// Rows with icons at their right end, each for a yes or no of the model: locks, eyes and the like.
+/// Rows with icons at their end, each for a yes or no of the model: locks, eyes and the like.
 /// A click on one is the application's matter.
 ///
 /// By the keyboard, Alt+Left and Alt+Right go from icon to icon of the current row, and Space
@@ -66,6 +66,7 @@ private:
     bool isIconActive(std::size_t icon, QModelIndex const &index) const;
     int paintIcon(QPainter *painter, const QIcon &icon, int x, int y, QIcon::Mode mode) const;
 
+    QRect mirrored(const QRect &icon, const QRect &row) const;
     void paintIcons(QPainter *painter, const QRect &row, const QModelIndex &index) const;
     bool isPaintedDisabled(const QModelIndex &index) const;
     bool isFramed(std::size_t icon, const QModelIndex &index) const;
