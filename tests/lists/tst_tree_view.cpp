@@ -8,6 +8,7 @@
 #include <ZelWidgets/ZelTreeItemDelegate>
 #include <ZelWidgets/ZelTreeView>
 
+#include <QAccessible>
 #include <QCursor>
 #include <QDropEvent>
 #include <QHelpEvent>
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void clicksGoByFixedPlaces();
     void iconsAreAtTheLeftWhereOneReadsFromTheRight();
     void keysGoFromIconToIcon();
+    void iconsOfTheCurrentRowAreToldAsCheckBoxes();
     void lockedRowsArePaintedDisabled();
     void widthFollowsAText();
     void requestsAreTold();
@@ -176,6 +178,35 @@ void TreeViewTest::keysGoFromIconToIcon()
     QTest::keyClick(&forest.view, Qt::Key_Left, Qt::AltModifier);
     QTest::keyClick(&forest.view, Qt::Key_Space);
     QCOMPARE(forest.delegate.clicks.size(), 3);
+}
+
+void TreeViewTest::iconsOfTheCurrentRowAreToldAsCheckBoxes()
+{
+    auto forest = std::make_unique<Forest>();
+    QAccessibleInterface *tree = QAccessible::queryAccessibleInterface(&forest->view);
+    QVERIFY(tree && tree->tableInterface());
+    const int cells = tree->childCount();
+    QVERIFY(cells >= 4);
+    forest->model.item(1)->setData(true, lockRole);
+    forest->view.setCurrentIndex(forest->model.index(1, 0));
+    QCOMPARE(tree->childCount(), cells + 2);
+    QAccessibleInterface *lock = tree->child(cells);
+    QCOMPARE(tree->indexOfChild(lock), cells);
+    QCOMPARE(lock->text(QAccessible::Name), QStringLiteral("Icon 1, b"));
+    QVERIFY(lock->state().checked && !tree->child(cells + 1)->state().checked);
+    const QPoint place = forest->view.viewport()->mapToGlobal(forest->place(1, 0));
+    QVERIFY(tree->childAt(place.x(), place.y()) == lock);
+    lock->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(forest->delegate.clicks, QStringList{QStringLiteral("0 of 1")});
+    forest->view.setFocus();
+    QTRY_VERIFY(forest->view.hasFocus());
+    QTest::keyClick(&forest->view, Qt::Key_Left, Qt::AltModifier);
+    QVERIFY(tree->focusChild() == lock);
+    // A row without icons, and then no tree.
+    forest->view.setCurrentIndex(forest->model.index(2, 0));
+    QVERIFY(!lock->isValid());
+    QCOMPARE(tree->childCount(), cells);
+    forest.reset();
 }
 
 void TreeViewTest::lockedRowsArePaintedDisabled()

@@ -42,8 +42,10 @@ public:
         : ZelTreeItemDelegate(view)
     {
         addLockIcon(SceneModel::LockedRole);
-        addIcon({icon("visible"), SceneModel::HiddenRole, true, true, icon("hidden")});
-        addIcon({icon("palette"), SceneModel::HasMaterialRole, false, false, QIcon()});
+        addIcon({icon("visible"), SceneModel::HiddenRole, true, true, icon("hidden"),
+                 TreePage::tr("Hidden")});
+        addIcon({icon("palette"), SceneModel::HasMaterialRole, false, false, QIcon(),
+                 TreePage::tr("Material")});
     }
 
     QString nameAppendix(QModelIndex const &index) const override

@@ -4,6 +4,7 @@
 #include "theme/ZelStyleIcon.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -30,7 +31,7 @@ void ZelTreeItemDelegate::addIcon(IconAndRole icon)
 void ZelTreeItemDelegate::addLockIcon(int role)
 {
     addIcon({ZelStyleIcon(QStringLiteral(":ui/icons/unlock")), role, true, true,
-             ZelStyleIcon(QStringLiteral(":ui/icons/lock"))});
+             ZelStyleIcon(QStringLiteral(":ui/icons/lock")), tr("Locked")});
 }
 
 QString ZelTreeItemDelegate::nameAppendix(QModelIndex const &) const
@@ -173,6 +174,9 @@ void ZelTreeItemDelegate::frame(int icon)
 {
     framed_ = icon;
     view_->viewport()->update(view_->visualRect(view_->currentIndex()));
+    // The view names the icon as its child with the focus.
+    QAccessibleEvent focus(view_, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
 }
 
 bool ZelTreeItemDelegate::keyPressed(QKeyEvent *event)

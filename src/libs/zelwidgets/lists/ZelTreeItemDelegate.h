@@ -33,6 +33,8 @@ public:
         /// painted disabled, but for the current one.
         bool hasActiveIcon = false;
         QIcon activeIcon;
+        /// What it tells while the role is true, for those who can't see it.
+        QString text = {};
     };
 
     /// The view owns the delegate, which doesn't become its delegate by that.
@@ -59,6 +61,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    friend class ZelTreeRowIcons;
+
     int firstIconHorizontalOffset(QRect const &row) const;
     QRect iconRect(std::size_t icon, QRect const &row) const;
     int iconSpacing() const;

@@ -1,6 +1,7 @@
 #include "ZelTreeView.h"
 
 #include "lists/ZelItemDrag.h"
+#include "lists/ZelTreeAccessible.h"
 #include "shortcuts/ZelShortcut.h"
 #include "theme/ZelFontMetrics.h"
 
@@ -14,6 +15,7 @@
 ZelTreeView::ZelTreeView(QWidget *parent)
     : QTreeView(parent)
 {
+    ZelTreeAccessible::installFactory();
     setAllColumnsShowFocus(true);
     setUniformRowHeights(true);
     setTextElideMode(Qt::ElideNone);
