@@ -115,6 +115,7 @@ private Q_SLOTS:
     void dropsGoToTheSelection();
     void modelsMayChangeDuringADrop();
     void dragsShowAStack();
+    void dragsWriteTheirItemsWhenAsked();
     void clicksCopyRenameAndOpen();
     void toolTipsAreTheAdapters();
     void modesAreSwitched();
@@ -360,6 +361,33 @@ struct Shelf
     Adapter adapter;
     ZelIconListWidget list;
 };
+
+void IconListsTest::dragsWriteTheirItemsWhenAsked()
+{
+    auto shelf = std::make_unique<Shelf>();
+    QAbstractItemModel *model = shelf->list.model();
+    const auto dataOf = [model](std::initializer_list<int> rows) {
+        QModelIndexList indices;
+        for (const int row : rows)
+            indices << model->index(row, 0);
+        return std::unique_ptr<QMimeData>(model->mimeData(indices));
+    };
+    const auto two = dataOf({0, 1});
+    const auto other = dataOf({2});
+    const auto late = dataOf({2});
+    QVERIFY(two->hasFormat(model->mimeTypes().constFirst()));
+    delete shelf->list.takeItem(0);
+    ZelIconListWidget target(nullptr, &shelf->adapter);
+    QVERIFY(target.model()->dropMimeData(two.get(), Qt::CopyAction, -1, -1, {}));
+    QVERIFY(target.model()->dropMimeData(other.get(), Qt::CopyAction, -1, -1, {}));
+    QCOMPARE(target.count(), 2);
+    QStringList texts{target.item(0)->text(), target.item(1)->text()};
+    texts.sort();
+    QCOMPARE(texts, (QStringList{QStringLiteral("b"), QStringLiteral("c")}));
+    QVERIFY(!target.item(0)->icon().isNull());
+    shelf.reset();
+    QVERIFY(late->data(late->formats().constFirst()).isEmpty());
+}
 
 void IconListsTest::clicksCopyRenameAndOpen()
 {

@@ -4,6 +4,7 @@
 #include "lists/ZelIconListItemDelegate.h"
 #include "lists/ZelIconListWidgetAdapter.h"
 #include "lists/ZelItemDrag.h"
+#include "lists/ZelLazyMimeData.h"
 #include "shortcuts/ZelShortcut.h"
 
 #include <QBitmap>
@@ -199,6 +200,24 @@ QPixmap ZelIconListWidget::dragPicture(const QList<QListWidgetItem *> &items)
 {
     return ZelItemDrag::picture(items.size(), devicePixelRatioF(),
                                 [&](qsizetype at) { return dragPixmap(items[at]); });
+}
+
+QMimeData *ZelIconListWidget::mimeData(const QList<QListWidgetItem *> &items) const
+{
+    if (items.isEmpty())
+        return nullptr;
+    QList<QPersistentModelIndex> rows;
+    for (const QListWidgetItem *item : items)
+        rows.append(indexFromItem(item));
+    const QPointer<const ZelIconListWidget> list(this);
+    return new ZelLazyMimeData(mimeTypes(), [list, rows]() -> QMimeData * {
+        QList<QListWidgetItem *> left;
+        for (const QPersistentModelIndex &row : rows) {
+            if (list && row.isValid())
+                left.append(list->itemFromIndex(row));
+        }
+        return left.isEmpty() ? nullptr : list->QListWidget::mimeData(left);
+    });
 }
 
 void ZelIconListWidget::startDrag(Qt::DropActions)

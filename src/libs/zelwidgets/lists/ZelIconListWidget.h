@@ -28,6 +28,8 @@ public:
 protected:
     void removeCustomToolTip();
     virtual QPixmap pixmapFromItem(QListWidgetItem *item, QSize size);
+    /// Written when it is asked for: the pictures of many items take long.
+    QMimeData *mimeData(const QList<QListWidgetItem *> &items) const override;
 
     bool event(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
