@@ -4,8 +4,10 @@
 #include "ZelSettingsValue.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDebug>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QFileInfo>
 #include <QLockFile>
@@ -28,17 +30,31 @@ QString defaultPath()
     return folder + QLatin1String(isNamed ? "/settings.json" : "/zelmora/settings.json");
 }
 
+constexpr int abandonedAfterMs = 3000;
+constexpr int pollMs = 5;
+
 // A process that is killed just when it makes its lock file leaves an empty one behind. QSettings
 // would wait half a minute for it; whoever lives fills his within microseconds, on a machine with
-// too much to do within a second.
+// too much to do within a second. A lock that is filled is none of our business, however long it is
+// held: to challenge it could take the next one away from whoever has it.
 void clearAbandonedLock(const QString &path)
 {
-    const QFileInfo lockFile(path + QLatin1String(".lock"));
-    if (!lockFile.isFile() || lockFile.size() > 0)
-        return;
-    QLockFile lock(lockFile.filePath());
-    lock.setStaleLockTime(3000);
-    lock.tryLock(5000);
+    QFileInfo lockFile(path + QLatin1String(".lock"));
+    const QDateTime made = lockFile.lastModified();
+    QElapsedTimer waited;
+    waited.start();
+    while (lockFile.isFile() && lockFile.size() == 0 && lockFile.lastModified() == made) {
+        const bool isAbandoned = waited.hasExpired(abandonedAfterMs) ||
+                                 made.msecsTo(QDateTime::currentDateTime()) > abandonedAfterMs;
+        if (isAbandoned) {
+            QLockFile lock(lockFile.filePath());
+            lock.setStaleLockTime(abandonedAfterMs);
+            lock.tryLock(0);
+            return;
+        }
+        QThread::msleep(pollMs);
+        lockFile.refresh();
+    }
 }
 
 struct CloseAtExit
