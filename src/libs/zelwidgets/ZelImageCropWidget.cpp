@@ -1,5 +1,6 @@
 #include "ZelImageCropWidget.h"
 
+#include "ZelArrowKeys.h"
 #include "ZelFocusFrame.h"
 
 #include <QDebug>
@@ -20,22 +21,6 @@ constexpr QColor shade(70, 50, 50, 200);
 QRegion outlineOf(const QRect &rect)
 {
     return QRegion(rect) - rect.adjusted(1, 1, -1, -1);
-}
-
-QPoint arrowDirection(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
 }
 
 } // namespace
@@ -173,7 +158,7 @@ void ZelImageCropWidget::mouseReleaseEvent(QMouseEvent *event)
 void ZelImageCropWidget::keyPressEvent(QKeyEvent *event)
 {
     const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    const QPoint direction = arrowDirection(event->key());
+    const QPoint direction = zelArrowStep(event->key());
     if (direction.isNull() || modifiers & ~(Qt::ShiftModifier | Qt::ControlModifier)) {
         QLabel::keyPressEvent(event);
         return;

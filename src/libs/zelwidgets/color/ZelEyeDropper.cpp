@@ -1,5 +1,6 @@
 #include "color/ZelEyeDropper.h"
 
+#include "ZelArrowKeys.h"
 #include "color/ZelColorConversion.h"
 #include "color/ZelCursorPlace.h"
 #include "color/ZelLoupe.h"
@@ -58,22 +59,6 @@ QCursor cross()
     bars(1, Qt::black);
     painter.end();
     return QCursor(picture, middle, middle);
-}
-
-QPoint stepOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
 }
 
 } // namespace
@@ -242,7 +227,7 @@ void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
 
 void ZelEyeDropper::keyPressEvent(QKeyEvent *event)
 {
-    const QPoint step = stepOf(event->key());
+    const QPoint step = zelArrowStep(event->key());
     if (!step.isNull()) {
         const QScreen *screen = QGuiApplication::screenAt(ZelCursorPlace::floored(d_->place));
         const int pixels = event->modifiers() & Qt::ShiftModifier ? longStep : 1;

@@ -1,6 +1,7 @@
 // What the user does in the view: wheel, mouse and keyboard.
 
 #include "ZelAccessibleParts.h"
+#include "ZelArrowKeys.h"
 #include "curve/ZelCurveViewDrag.h"
 #include "curve/ZelCurveViewMarkers.h"
 #include "curve/ZelCurveViewMath.h"
@@ -22,23 +23,6 @@ constexpr char path[] = "src/libs/zelwidgets/curve/ZelCurveGraphicsView";
 constexpr float keyZoomIn = 1.1F;
 constexpr float keyZoomOut = 0.9090909F;
 constexpr int coarseStep = 10;
-
-/// The pixels that an arrow key stands for.
-QPoint arrow(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
 
 bool hasOnlyShift(const QKeyEvent *event)
 {
@@ -216,7 +200,7 @@ bool ZelCurveGraphicsView::isEditKey(const QKeyEvent *event) const
         return isDrag;
     if (event->key() == Qt::Key_Home)
         return isNavigable() && event->modifiers() == Qt::NoModifier;
-    const bool isMarkerKey = !arrow(event->key()).isNull() || event->key() == Qt::Key_Space;
+    const bool isMarkerKey = !zelArrowStep(event->key()).isNull() || event->key() == Qt::Key_Space;
     return isMarkerKey && !isDrag && hasOnlyShift(event) &&
            ZelCurveViewMarkers::selected(scene_).isValid();
 }
@@ -237,7 +221,7 @@ bool ZelCurveGraphicsView::editByKey(const QKeyEvent *event)
         break;
     default:
         const bool isCoarse = event->modifiers().testFlag(Qt::ShiftModifier);
-        nudge(arrow(event->key()) * (isCoarse ? coarseStep : 1));
+        nudge(zelArrowStep(event->key()) * (isCoarse ? coarseStep : 1));
     }
     return true;
 }

@@ -1,30 +1,11 @@
 #include "ZelGraphicsRectItem.h"
 
+#include "ZelArrowKeys.h"
 #include "curve/ZelRectSnapping.h"
 
 #include <QGraphicsScene>
 #include <QKeyEvent>
 #include <QPen>
-
-namespace {
-
-QPoint directionOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Left:
-        return {-1, 0};
-    case Qt::Key_Right:
-        return {1, 0};
-    case Qt::Key_Up:
-        return {0, -1};
-    case Qt::Key_Down:
-        return {0, 1};
-    default:
-        return {};
-    }
-}
-
-} // namespace
 
 ZelGraphicsRectItem::ZelGraphicsRectItem(QGraphicsItem *parent)
     : ZelGraphicsRectItem(QRectF(), parent)
@@ -85,7 +66,7 @@ void ZelGraphicsRectItem::confineToScene()
 
 void ZelGraphicsRectItem::keyPressEvent(QKeyEvent *event)
 {
-    const QPoint direction = directionOf(event->key());
+    const QPoint direction = zelArrowStep(event->key());
     if (direction.isNull() || !scene()) {
         QGraphicsRectItem::keyPressEvent(event);
         return;

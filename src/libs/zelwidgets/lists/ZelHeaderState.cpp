@@ -93,7 +93,10 @@ std::optional<ZelHeaderState> ZelHeaderState::read(const QByteArray &bytes)
     if (in.number() != marker || in.number() != version)
         return {};
     ZelHeaderState state;
-    state.orientation_ = Qt::Orientation(in.number());
+    const int orientation = in.number();
+    if (orientation != Qt::Horizontal && orientation != Qt::Vertical)
+        return {};
+    state.orientation_ = Qt::Orientation(orientation);
     state.sortOrder_ =
         in.number() == Qt::DescendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
     state.sortSection_ = in.number();
