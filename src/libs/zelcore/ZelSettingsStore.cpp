@@ -31,15 +31,16 @@ QString defaultPath()
 }
 
 constexpr int abandonedAfterMs = 3000;
+constexpr int givenUpAfterMs = 10000;
 constexpr int pollMs = 5;
 
-// A process that is killed just when it makes its lock file leaves an empty one behind. QSettings
-// would wait half a minute for it; whoever lives fills his within microseconds, on a machine with
+// A process that is killed just when it makes its lock file leaves an empty one behind, which would
+// be respected for half a minute; whoever lives fills his within microseconds, on a machine with
 // too much to do within a second. A lock that is filled is none of our business, however long it is
 // held: to challenge it could take the next one away from whoever has it.
 void clearAbandonedLock(const QString &path)
 {
-    QFileInfo lockFile(path + QLatin1String(".lock"));
+    QFileInfo lockFile(path);
     const QDateTime made = lockFile.lastModified();
     QElapsedTimer waited;
     waited.start();
@@ -47,7 +48,7 @@ void clearAbandonedLock(const QString &path)
         const bool isAbandoned = waited.hasExpired(abandonedAfterMs) ||
                                  made.msecsTo(QDateTime::currentDateTime()) > abandonedAfterMs;
         if (isAbandoned) {
-            QLockFile lock(lockFile.filePath());
+            QLockFile lock(path);
             lock.setStaleLockTime(abandonedAfterMs);
             lock.tryLock(0);
             return;
@@ -56,6 +57,29 @@ void clearAbandonedLock(const QString &path)
         lockFile.refresh();
     }
 }
+
+/// Keeps the other processes of this library from the file while one of them reads or writes it.
+/// QSettings locks for its writing only: what it reads while another one writes, it can take for
+/// the newer content, and its next writing would then undo what the other one wrote.
+class ProcessGuard
+{
+public:
+    explicit ProcessGuard(const QString &path)
+        : lock_(path + QLatin1String(".guard"))
+    {
+        QElapsedTimer waited;
+        waited.start();
+        while (!lock_.tryLock(0) && lock_.error() == QLockFile::LockFailedError &&
+               !waited.hasExpired(givenUpAfterMs)) {
+            clearAbandonedLock(lock_.fileName());
+            QThread::msleep(pollMs);
+        }
+        clearAbandonedLock(path + QLatin1String(".lock"));
+    }
+
+private:
+    QLockFile lock_;
+};
 
 struct CloseAtExit
 {
@@ -126,6 +150,7 @@ QString ZelSettingsStore::chosenPath()
 ZelSettingsStore::File *ZelSettingsStore::file(Access &access)
 {
     if (!file_ && !isClosed_) {
+        const ProcessGuard guard(chosenPath());
         file_ = std::make_unique<File>(*this, chosenPath());
         if (QCoreApplication *application = QCoreApplication::instance())
             file_->moveToThread(application->thread());
@@ -210,7 +235,7 @@ void ZelSettingsStore::tellFailure(Access &access)
 // Takes up what other processes wrote and writes what is pending.
 bool ZelSettingsStore::sync(Access &access)
 {
-    clearAbandonedLock(chosenPath());
+    const ProcessGuard guard(chosenPath());
     file_->sync();
     // The status keeps the first error; a second object on the same file shares what is pending,
     // tries again and tells how things stand now.
