@@ -65,8 +65,8 @@ QString WorkSpaceNames::proposedName(const QStringList &takenNames)
 
 QString WorkSpaceNames::importedName(const QString &name, const QStringList &takenNames)
 {
-    const bool isBlank = name.trimmed().isEmpty();
-    const QString wanted = isBlank ? QStringLiteral("Imported") : cut(name, maximumLength);
+    const QString fitting = cut(name, maximumLength);
+    const QString wanted = fitting.trimmed().isEmpty() ? QStringLiteral("Imported") : fitting;
     if (!takenNames.contains(wanted))
         return wanted;
     const QSet<QString> all(takenNames.begin(), takenNames.end());
