@@ -3,7 +3,6 @@
 #include <ZelWidgets/Multicast>
 
 #include <QHostAddress>
-#include <QNetworkInterface>
 #include <QUdpSocket>
 
 namespace {
@@ -17,9 +16,10 @@ struct Received
     int ipVersion = 0;
 };
 
-bool hasIpv6Loopback()
+bool canBind(QHostAddress::SpecialAddress address)
 {
-    return QNetworkInterface::allAddresses().contains(QHostAddress(QHostAddress::LocalHostIPv6));
+    QUdpSocket probe;
+    return probe.bind(QHostAddress(address), 0);
 }
 
 /// A listener that notes what it is told.
@@ -54,6 +54,7 @@ private Q_SLOTS:
     void tellsIpv6();
     void survivesAFlood();
     void sharesItsPort();
+    void goesOnWithoutAFamily();
     void changesItsPort();
     void diesInItsOwnSignal();
 };
@@ -77,7 +78,7 @@ void TestMulticast::tellsDatagrams()
 
 void TestMulticast::tellsIpv6()
 {
-    if (!hasIpv6Loopback())
+    if (!canBind(QHostAddress::LocalHostIPv6))
         QSKIP("no IPv6 on this machine");
     Listener listener;
     QVERIFY(listener.multicast.isListening(6));
@@ -110,6 +111,19 @@ void TestMulticast::sharesItsPort()
     const Multicast second(listener.multicast.port());
     QVERIFY(second.isListening(4));
     QCOMPARE(second.port(), listener.multicast.port());
+}
+
+void TestMulticast::goesOnWithoutAFamily()
+{
+    QUdpSocket owner;
+    QVERIFY(owner.bind(QHostAddress(QHostAddress::AnyIPv4), 0, QUdpSocket::DontShareAddress));
+    messages().expect(
+        QtWarningMsg,
+        QStringLiteral("could not listen for IP version 4 on port %1").arg(owner.localPort()));
+    const Multicast multicast(owner.localPort());
+    QVERIFY(!multicast.isListening(4));
+    QCOMPARE(multicast.isListening(6), canBind(QHostAddress::AnyIPv6));
+    QCOMPARE(multicast.port(), owner.localPort());
 }
 
 void TestMulticast::changesItsPort()

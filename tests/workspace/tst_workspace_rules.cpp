@@ -1,13 +1,11 @@
 #include "TestCase.h"
 
-#include "docks/ZelTabDragGeometry.h"
 #include "workspace/WorkSpaceGeometry.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRecord.h"
 #include "workspace/WorkSpaceRibbonRules.h"
 #include "workspace/WorkSpaceTabOrder.h"
 
-#include <ZelCore/ZelSettings>
 #include <ZelCore/splitTrailingNumber>
 
 #include <algorithm>
@@ -32,7 +30,7 @@ private Q_SLOTS:
     void proposesNames();
     void namesImports_data();
     void namesImports();
-    void namesDocks();
+    void filtersNames();
     void placesOnScreens_data();
     void placesOnScreens();
     void findsTargets();
@@ -41,10 +39,6 @@ private Q_SLOTS:
     void showsRibbonButtons_data();
     void showsRibbonButtons();
     void thinsOutSeparators();
-    void tearsOutFarFromTheBar_data();
-    void tearsOutFarFromTheBar();
-    void reordersTabs_data();
-    void reordersTabs();
 };
 
 void TestWorkspaceRules::splitsTrailingNumbers_data()
@@ -112,24 +106,12 @@ void TestWorkspaceRules::namesImports()
     QTEST(WorkSpaceNames::importedName(name, taken), "expected");
 }
 
-void TestWorkspaceRules::namesDocks()
+void TestWorkspaceRules::filtersNames()
 {
     const QString page = QStringLiteral("Scene: Lights/2_b");
     const QString name = WorkSpaceNames::filtered(page);
     QCOMPARE(name, QStringLiteral("Scene__Lights_2_b"));
     QCOMPARE(WorkSpaceNames::filtered(name), name);
-    QCOMPARE(WorkSpaceNames::stableDockName(page), QStringLiteral("ZelDWScene__Lights_2_b_"));
-    QCOMPARE(WorkSpaceNames::stableDockName(std::nullopt), QStringLiteral("ErrorInName_"));
-
-    ZelSettings(QStringLiteral("PageDockWdg")).setValue(QStringLiteral("windowSeq"), 41U);
-    const auto take = [] {
-        return WorkSpaceNames::takeDockName(QStringLiteral("Page"));
-    };
-    QCOMPARE(take(), QStringLiteral("ZelDWPage42"));
-    QCOMPARE(take(), QStringLiteral("ZelDWPage43"));
-    QCOMPARE(WorkSpaceNames::takeDockName(std::nullopt), QStringLiteral("ErrorInName1"));
-    const ZelSettings lost(QStringLiteral("ProblematicNullPtrError"));
-    QCOMPARE(lost.value(QStringLiteral("windowSeq")).toUInt(), 1U);
 }
 
 void TestWorkspaceRules::placesOnScreens_data()
@@ -269,51 +251,6 @@ void TestWorkspaceRules::thinsOutSeparators()
     QCOMPARE(thin("b||b"), QStringLiteral("1101"));
     QCOMPARE(thin("b|h|hb|"), QStringLiteral("1100011"));
     QCOMPARE(thin("||"), QStringLiteral("10"));
-}
-
-void TestWorkspaceRules::tearsOutFarFromTheBar_data()
-{
-    QTest::addColumn<QPoint>("pointer");
-    QTest::addColumn<bool>("expected");
-    QTest::newRow("inside") << QPoint(200, 110) << false;
-    QTest::newRow("below, near") << QPoint(200, 119 + 39) << false;
-    QTest::newRow("below, far") << QPoint(200, 119 + 40) << true;
-    QTest::newRow("above, far") << QPoint(200, 100 - 40) << true;
-    QTest::newRow("beside, near") << QPoint(299 + 35, 119 + 4) << false;
-    QTest::newRow("beside, far") << QPoint(299 + 35, 119 + 5) << true;
-    QTest::newRow("left, far") << QPoint(100 - 40, 100) << true;
-}
-
-void TestWorkspaceRules::tearsOutFarFromTheBar()
-{
-    QFETCH(QPoint, pointer);
-    QTEST(ZelTabDragGeometry::isTornOut(QRect(100, 100, 200, 20), pointer, 10), "expected");
-}
-
-void TestWorkspaceRules::reordersTabs_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("x");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("right, before the centre") << 0 << 110 << 1;
-    QTest::newRow("right, past the centre") << 0 << 130 << 2;
-    QTest::newRow("left, before the centre") << 2 << 10 << 0;
-    QTest::newRow("left, past the centre") << 2 << 40 << 1;
-    QTest::newRow("beyond the last") << 0 << 900 << 2;
-    QTest::newRow("beyond the first") << 2 << -900 << 0;
-    QTest::newRow("onto itself") << 1 << 80 << 1;
-    QTest::newRow("onto its neighbour's near half") << 1 << 40 << 1;
-}
-
-void TestWorkspaceRules::reordersTabs()
-{
-    QFETCH(int, from);
-    QFETCH(int, x);
-    const QList<QRect> tabs{QRect(0, 0, 50, 20), QRect(50, 0, 50, 20), QRect(100, 0, 50, 20)};
-    QTEST(ZelTabDragGeometry::reorderTarget(tabs, from, x), "expected");
-    const QList<QRect> mirrored{tabs[2], tabs[1], tabs[0]};
-    QTEST(ZelTabDragGeometry::reorderTarget(mirrored, from, 149 - x, Qt::RightToLeft), "expected");
-    QCOMPARE(ZelTabDragGeometry::reorderTarget({}, from, x), -1);
 }
 
 ZEL_TEST_MAIN(TestWorkspaceRules)

@@ -1,6 +1,5 @@
 #include "workspace/WorkSpaceNames.h"
 
-#include <ZelCore/ZelSettings>
 #include <ZelCore/splitTrailingNumber>
 
 #include <QSet>
@@ -9,7 +8,6 @@
 
 namespace {
 
-const QLatin1String dockPrefix("ZelDW");
 const QLatin1String exportPrefix("Exp");
 
 /// The first text of the form that isn't taken, counting from 1.
@@ -40,13 +38,6 @@ QString numbered(const QString &stem, qint64 number)
 bool isNameCharacter(QChar character)
 {
     return character.isLetterOrNumber() || character == u'_' || character == u'-';
-}
-
-QString dockStem(const std::optional<QString> &pageName)
-{
-    if (!pageName)
-        return QStringLiteral("ErrorInName");
-    return dockPrefix + WorkSpaceNames::filtered(*pageName);
 }
 
 } // namespace
@@ -98,19 +89,4 @@ QString WorkSpaceNames::filtered(const QString &objectName)
         name.begin(), name.end(), [](QChar character) { return !isNameCharacter(character); },
         QChar(u'_'));
     return name;
-}
-
-QString WorkSpaceNames::stableDockName(const std::optional<QString> &pageName)
-{
-    return dockStem(pageName) + u'_';
-}
-
-QString WorkSpaceNames::takeDockName(const std::optional<QString> &pageName)
-{
-    const QString key = QStringLiteral("windowSeq");
-    ZelSettings settings(pageName ? *pageName + QLatin1String("DockWdg")
-                                  : QStringLiteral("ProblematicNullPtrError"));
-    const uint number = settings.value(key, 0U).toUInt() + 1;
-    settings.setValue(key, number);
-    return dockStem(pageName) + QString::number(number);
 }

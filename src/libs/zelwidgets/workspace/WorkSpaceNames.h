@@ -3,8 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <optional>
-
 /// How workspaces and the windows in them get their ids and names.
 namespace WorkSpaceNames {
 
@@ -25,10 +23,5 @@ bool isIdLess(const QString &first, const QString &second);
 
 /// An object name reduced to what may stand in a stored state: letters, digits, "_" and "-".
 QString filtered(const QString &objectName);
-/// The name of the window of a torn-out page until it is moved; no page gives a name that shows it.
-QString stableDockName(const std::optional<QString> &pageName);
-/// The name of the window of a torn-out page from its first move on. Takes the next number of the
-/// page from the settings, so that no two windows of an installation ever share a name.
-QString takeDockName(const std::optional<QString> &pageName);
 
 } // namespace WorkSpaceNames
