@@ -38,7 +38,7 @@ public:
         return sender.writeDatagram(data, QHostAddress(to), multicast.port()) == data.size();
     }
 
-    Multicast multicast{0};
+    Multicast multicast{nullptr, 0};
     QUdpSocket sender;
     QList<Received> received;
 };
@@ -108,7 +108,7 @@ void TestMulticast::survivesAFlood()
 void TestMulticast::sharesItsPort()
 {
     Listener listener;
-    const Multicast second(listener.multicast.port());
+    const Multicast second(nullptr, listener.multicast.port());
     QVERIFY(second.isListening(4));
     QCOMPARE(second.port(), listener.multicast.port());
 }
@@ -120,7 +120,7 @@ void TestMulticast::goesOnWithoutAFamily()
     messages().expect(
         QtWarningMsg,
         QStringLiteral("could not listen for IP version 4 on port %1").arg(owner.localPort()));
-    const Multicast multicast(owner.localPort());
+    const Multicast multicast(nullptr, owner.localPort());
     QVERIFY(!multicast.isListening(4));
     QCOMPARE(multicast.isListening(6), canBind(QHostAddress::AnyIPv6));
     QCOMPARE(multicast.port(), owner.localPort());
@@ -144,7 +144,7 @@ void TestMulticast::changesItsPort()
 
 void TestMulticast::diesInItsOwnSignal()
 {
-    auto *multicast = new Multicast(0);
+    auto *multicast = new Multicast(nullptr, 0);
     const quint16 port = multicast->port();
     const QPointer<Multicast> alive(multicast);
     connect(multicast, &Multicast::multicastDatagramReady, this, [multicast] { delete multicast; });

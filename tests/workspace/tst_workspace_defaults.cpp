@@ -112,7 +112,7 @@ void TestWorkspaceDefaults::refusesBadFiles_data()
         QTest::newRow(message) << QByteArray(contents) << QString::fromLatin1(message);
     };
     row("", "Error loading file contents");
-    row("{\"a\"", "File does not contain a valid json: missing name separator");
+    row("{\"a\" 1}", "File does not contain a valid json: missing name separator");
     row("[]", "File does not contain a json object at the root");
     row(R"({"a": {"name": "a", "data": ""}, "b": null})",
         "One of the top level elements does not have a value of type object. Key b has value "

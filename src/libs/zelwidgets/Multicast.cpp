@@ -127,16 +127,12 @@ void MulticastPrivate::readBatch(const QPointer<QUdpSocket> &socket, uchar ipVer
             q_, [this, socket, ipVersion] { readBatch(socket, ipVersion); }, Qt::QueuedConnection);
 }
 
-Multicast::Multicast(quint16 port, QObject *parent)
+Multicast::Multicast(QObject *parent, quint16 port)
     : QObject(parent)
     , d_(std::make_unique<MulticastPrivate>(this))
 {
     d_->listen(port);
 }
-
-Multicast::Multicast(QObject *parent)
-    : Multicast(defaultPort, parent)
-{}
 
 Multicast::~Multicast() = default;
 

@@ -22,8 +22,7 @@ public:
     static constexpr quint16 defaultPort = 50676;
 
     /// Listens at once. Port 0 leaves the choice of a port to the system.
-    explicit Multicast(quint16 port, QObject *parent = nullptr);
-    explicit Multicast(QObject *parent = nullptr);
+    explicit Multicast(QObject *parent = nullptr, quint16 port = defaultPort);
     ~Multicast() override;
 
     /// The port that is listened on.
