@@ -1,0 +1,255 @@
+#include "ZelDragOutEventFilter.h"
+
+#include "ZelDockWidgetFromTab.h"
+#include "ZelDockWidgetTitle.h"
+#include "ZelDocking.h"
+#include "ZelTabDragRules.h"
+#include "ZelTabOrder.h"
+#include "ZelTextIconTabWidget.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+namespace {
+
+void sendMouse(QWidget *receiver, QEvent::Type type, const QPoint &globalPoint,
+               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const QPointF local = receiver->mapFromGlobal(QPointF(globalPoint));
+    const QPointF inWindow = receiver->window()->mapFromGlobal(QPointF(globalPoint));
+    QMouseEvent event(type, local, inWindow, globalPoint, button, buttons, modifiers);
+    QCoreApplication::sendEvent(receiver, &event);
+}
+
+} // namespace
+
+ZelDragOutEventFilter::ZelDragOutEventFilter(ZelTextIconTabWidget *tabs)
+    : QObject(tabs)
+    , tabs_(tabs)
+    , mainWindow_(ZelDocking::mainWindowOf(tabs))
+{
+    setObjectName(name());
+    ZelTabOrder::markOriginal(tabs);
+    tabs->tabBar()->installEventFilter(this);
+    if (mainWindow_)
+        mainWindow_->installEventFilter(this);
+}
+
+ZelDragOutEventFilter::~ZelDragOutEventFilter()
+{
+    setDragging(false);
+}
+
+QString ZelDragOutEventFilter::name()
+{
+    return QStringLiteral("ZelDragOutEventFilter");
+}
+
+void ZelDragOutEventFilter::stop()
+{
+    finish();
+    tabs_->tabBar()->removeEventFilter(this);
+    if (mainWindow_)
+        mainWindow_->removeEventFilter(this);
+}
+
+bool ZelDragOutEventFilter::eventFilter(QObject *object, QEvent *event)
+{
+    if (!object->isWidgetType() || forwarding_)
+        return false;
+    auto *widget = static_cast<QWidget *>(object);
+    findLostRelease(event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        if (widget == mainWindow_)
+            watchMainWindow(static_cast<QMouseEvent *>(event));
+        else if (widget == tabs_->tabBar())
+            press(static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::MouseMove:
+        if (widget == mainWindow_)
+            watchMainWindow(static_cast<QMouseEvent *>(event));
+        else
+            move(widget, static_cast<QMouseEvent *>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        if (widget != mainWindow_)
+            release(widget, static_cast<QMouseEvent *>(event));
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+/// A window that died or a release that never came must not leave a drag behind.
+void ZelDragOutEventFilter::findLostRelease(QEvent *event)
+{
+    if (state_ == State::Detached && !dragged_)
+        state_ = State::Idle;
+    const bool isMove = event->type() == QEvent::MouseMove;
+    if (!isMove && event->type() != QEvent::Enter && event->type() != QEvent::HoverMove)
+        return;
+    const Qt::MouseButtons buttons =
+        isMove ? static_cast<QMouseEvent *>(event)->buttons() : QGuiApplication::mouseButtons();
+    if (buttons == Qt::NoButton && groupedDraggingTaken_) {
+        groupedDraggingTaken_ = false;
+        ZelDocking::setGroupedDragging(mainWindow_, true);
+    }
+    if (isMove && state_ != State::Idle && !buttons.testFlag(Qt::LeftButton))
+        finish();
+}
+
+/// While a button is down only one dock is dragged, never the group that it floats in.
+void ZelDragOutEventFilter::watchMainWindow(QMouseEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress) {
+        groupedDraggingTaken_ =
+            groupedDraggingTaken_ || ZelDocking::hasGroupedDragging(mainWindow_);
+        ZelDocking::setGroupedDragging(mainWindow_, false);
+    } else if (event->buttons() == Qt::NoButton) {
+        groupedDraggingTaken_ = false;
+        ZelDocking::setGroupedDragging(mainWindow_, true);
+    }
+}
+
+void ZelDragOutEventFilter::press(const QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressPos_ = event->position().toPoint();
+    if (tabs_->count() >= 2 && tabs_->tabBar()->tabAt(pressPos_) >= 0 && ZelDocking::isEnabled()) {
+        state_ = State::Pressed;
+        dragged_.clear();
+    }
+}
+
+void ZelDragOutEventFilter::move(QWidget *widget, QMouseEvent *event)
+{
+    const QPoint point = event->globalPosition().toPoint();
+    if (state_ == State::Pressed && widget == tabs_->tabBar()) {
+        if (dragging_)
+            testTearOut(point);
+        else if ((event->position().toPoint() - pressPos_).manhattanLength() >=
+                 QApplication::startDragDistance())
+            setDragging(true);
+    } else if (state_ == State::Detached && widget == tabs_->tabBar()) {
+        // The bar keeps the mouse that was pressed on it.
+        forwardToDragged(event);
+    }
+}
+
+void ZelDragOutEventFilter::testTearOut(const QPoint &globalPoint)
+{
+    const QTabBar *bar = tabs_->tabBar();
+    const QRect area(bar->mapToGlobal(QPoint(0, 0)), bar->size());
+    if (ZelTabDragRules::isTornOut(area, globalPoint, QApplication::startDragDistance()))
+        dragOut(globalPoint);
+}
+
+void ZelDragOutEventFilter::dragOut(const QPoint &globalPoint)
+{
+    dragged_ = tearOut(tabs_->tabBar()->tabAt(pressPos_));
+    if (!dragged_) {
+        finish();
+        return;
+    }
+    state_ = State::Detached;
+    ZelDockWidgetTitle *title = dragged_->zelTitleWidget();
+    const QPoint grip = title->mapTo(dragged_, title->rect().center());
+    dragged_->move(globalPoint - grip);
+    // From here on the window follows the pointer as if its title had been pressed.
+    const QScopedValueRollback<bool> guard(forwarding_, true);
+    sendMouse(title, QEvent::MouseButtonPress, globalPoint, Qt::LeftButton, Qt::NoModifier);
+}
+
+void ZelDragOutEventFilter::forwardToDragged(const QMouseEvent *event)
+{
+    if (!dragged_)
+        return;
+    const QScopedValueRollback<bool> guard(forwarding_, true);
+    sendMouse(dragged_, QEvent::MouseMove, event->globalPosition().toPoint(), event->buttons(),
+              event->modifiers());
+}
+
+void ZelDragOutEventFilter::release(QWidget *widget, QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || state_ == State::Idle)
+        return;
+    const QPoint point = event->globalPosition().toPoint();
+    if (state_ == State::Detached && dragged_) {
+        const QScopedValueRollback<bool> guard(forwarding_, true);
+        QWidget *other = widget == tabs_->tabBar() ? static_cast<QWidget *>(dragged_)
+                                                   : static_cast<QWidget *>(tabs_->tabBar());
+        sendMouse(other, QEvent::MouseButtonRelease, point, Qt::NoButton, event->modifiers());
+    } else if (state_ == State::Pressed && dragging_ &&
+               tabs_->rect().contains(tabs_->mapFromGlobal(point))) {
+        reorder(point);
+    }
+    finish();
+}
+
+void ZelDragOutEventFilter::reorder(const QPoint &globalPoint)
+{
+    QTabBar *bar = tabs_->tabBar();
+    const int from = bar->tabAt(pressPos_);
+    if (from < 0)
+        return;
+    QList<QRect> places;
+    for (int i = 0; i < bar->count(); ++i)
+        places.append(bar->tabRect(i));
+    const int to =
+        ZelTabDragRules::reorderTarget(places, from, bar->mapFromGlobal(globalPoint).x());
+    if (to == from)
+        return;
+    ZelTabOrder::markOriginal(tabs_);
+    bar->moveTab(from, to);
+    ZelTabOrder::store(tabs_);
+}
+
+ZelDockWidgetFromTab *ZelDragOutEventFilter::tearOut(int tab)
+{
+    QMainWindow *window = ZelDocking::mainWindowOf(tabs_);
+    QWidget *page = tabs_->widget(tab);
+    if (!window || !page || tabs_->count() < 2)
+        return nullptr;
+    ZelTabOrder::markOriginal(tabs_);
+    const QString title = tabs_->dockHeaderPrefix() + tabs_->tabText(tab);
+    const QIcon icon = tabs_->tabIcon(tab);
+    const QSize pageSize = page->size();
+    ZelTabOrder::removePosition(tabs_, page);
+    tabs_->removeTab(tab);
+    page->hide();
+    page->setParent(nullptr);
+
+    auto *dock = new ZelDockWidgetFromTab(title, page, tabs_, icon, window);
+    dock->installEventFilter(this);
+    dock->zelTitleWidget()->installEventFilter(this);
+    dock->resize(pageSize);
+    dock->move(tabs_->mapToGlobal(QPoint(0, 0)));
+    page->show();
+    dock->show();
+    tabs_->updateTabWidths();
+    return dock;
+}
+
+void ZelDragOutEventFilter::setDragging(bool dragging)
+{
+    if (dragging == dragging_)
+        return;
+    dragging_ = dragging;
+    if (dragging)
+        QGuiApplication::setOverrideCursor(Qt::DragMoveCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+void ZelDragOutEventFilter::finish()
+{
+    state_ = State::Idle;
+    dragged_.clear();
+    setDragging(false);
+}
