@@ -1,7 +1,7 @@
 #include "ZelDockHold.h"
 
-#include "ZelDockWidget.h"
-#include "ZelDocking.h"
+#include "docks/ZelDockWidget.h"
+#include "docks/ZelDocking.h"
 
 #include <QPointer>
 #include <QTimer>

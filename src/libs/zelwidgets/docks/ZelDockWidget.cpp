@@ -1,11 +1,11 @@
 #include "ZelDockWidget.h"
 
-#include "ZelDockHold.h"
-#include "ZelDockWidgetPrivate.h"
-#include "ZelDockWidgetTitle.h"
-#include "ZelDocking.h"
 #include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockHold.h"
+#include "docks/ZelDockWidgetPrivate.h"
+#include "docks/ZelDockWidgetTitle.h"
+#include "docks/ZelDocking.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,8 +1,8 @@
 #include "ZelDockWidgetFromTab.h"
 
-#include "ZelDocking.h"
-#include "ZelTextIconTabWidget.h"
-#include "ZelTornOutName.h"
+#include "docks/ZelDocking.h"
+#include "docks/ZelTextIconTabWidget.h"
+#include "docks/ZelTornOutName.h"
 
 #include <QCloseEvent>
 #include <QMainWindow>
@@ -32,6 +32,11 @@ ZelDockWidgetFromTab::~ZelDockWidgetFromTab()
 {
     disconnect();
     putPageBack();
+}
+
+ZelTextIconTabWidget *ZelDockWidgetFromTab::tabWidget() const
+{
+    return tabs_;
 }
 
 void ZelDockWidgetFromTab::assignStableName()

@@ -24,7 +24,7 @@ public:
     ~ZelDockWidgetFromTab() override;
 
     QWidget *page() const { return page_; }
-    ZelTextIconTabWidget *tabWidget() const { return tabs_; }
+    ZelTextIconTabWidget *tabWidget() const;
     QIcon tabIcon() const { return tabIcon_; }
 
     /// Lets the page go back by itself when the window is put where no dock can stand.

@@ -1,9 +1,10 @@
 // The edges of a floating dock: dragging them and the snapping to the screen.
-#include "ZelDockGeometry.h"
-#include "ZelDockWidget.h"
-#include "ZelDockWidgetPrivate.h"
-#include "ZelDockWidgetTitle.h"
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockGeometry.h"
+#include "docks/ZelDockWidget.h"
+#include "docks/ZelDockWidgetPrivate.h"
+#include "docks/ZelDockWidgetTitle.h"
+#include "docks/ZelDocking.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -79,6 +80,8 @@ void ZelDockWidget::handleMousePressEvent(QMouseEvent *event, QObject *object)
 
 void ZelDockWidget::handleMouseMoveEvent(QMouseEvent *event)
 {
+    if (event->buttons() == Qt::NoButton)
+        ZelDocking::resumeGroupedDragging(ZelDocking::mainWindowOf(this));
     if (!isFloating())
         return;
     const QPoint point = event->globalPosition().toPoint();

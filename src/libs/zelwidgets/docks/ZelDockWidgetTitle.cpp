@@ -1,7 +1,7 @@
 #include "ZelDockWidgetTitle.h"
 
-#include "ZelDocking.h"
 #include "ZelToolButton.h"
+#include "docks/ZelDocking.h"
 #include "theme/ZelStyleIcon.h"
 
 #include <QEvent>
@@ -137,7 +137,7 @@ void ZelDockWidgetTitle::mousePressEvent(QMouseEvent *event)
 {
     // An ignored press goes on to the dock, which begins its drag with it.
     event->setAccepted(!ZelDocking::isEnabled());
-    ZelDocking::setGroupedDragging(ZelDocking::mainWindowOf(this), false);
+    ZelDocking::suspendGroupedDragging(ZelDocking::mainWindowOf(this));
     if (rect().contains(event->position().toPoint()))
         Q_EMIT titleBarPressed();
 }

@@ -7,6 +7,7 @@
 namespace ZelDocking {
 namespace {
 
+constexpr char suspendedProperty[] = "zelGroupedDraggingSuspended";
 int restoreDepth = 0;
 
 } // namespace
@@ -25,16 +26,20 @@ QMainWindow *mainWindowOf(QWidget *widget)
     return nullptr;
 }
 
-void setGroupedDragging(QMainWindow *window, bool grouped)
+void suspendGroupedDragging(QMainWindow *window)
 {
-    if (window && hasGroupedDragging(window) != grouped)
-        window->setDockOptions(
-            window->dockOptions().setFlag(QMainWindow::GroupedDragging, grouped));
+    if (!window || !window->dockOptions().testFlag(QMainWindow::GroupedDragging))
+        return;
+    window->setDockOptions(window->dockOptions().setFlag(QMainWindow::GroupedDragging, false));
+    window->setProperty(suspendedProperty, true);
 }
 
-bool hasGroupedDragging(const QMainWindow *window)
+void resumeGroupedDragging(QMainWindow *window)
 {
-    return window->dockOptions().testFlag(QMainWindow::GroupedDragging);
+    if (!window || !window->property(suspendedProperty).toBool())
+        return;
+    window->setProperty(suspendedProperty, QVariant());
+    window->setDockOptions(window->dockOptions().setFlag(QMainWindow::GroupedDragging, true));
 }
 
 bool isInRestore()

@@ -12,9 +12,11 @@ bool isEnabled();
 /// The nearest main window that the widget is in; null if there is none.
 QMainWindow *mainWindowOf(QWidget *widget);
 
-/// Lets the user drag a floating group of docks as one, or not.
-void setGroupedDragging(QMainWindow *window, bool grouped);
-bool hasGroupedDragging(const QMainWindow *window);
+/// Lets a drag move one dock alone, also out of a floating group that is dragged as one otherwise.
+/// Does nothing without a window.
+void suspendGroupedDragging(QMainWindow *window);
+/// Gives the window back what the first suspension took.
+void resumeGroupedDragging(QMainWindow *window);
 
 /// True while a RestoreScope lives: sizes and visibility of docks are then not the user's doing.
 bool isInRestore();

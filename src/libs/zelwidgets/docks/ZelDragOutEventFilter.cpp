@@ -1,11 +1,11 @@
 #include "ZelDragOutEventFilter.h"
 
-#include "ZelDockWidgetFromTab.h"
-#include "ZelDockWidgetTitle.h"
-#include "ZelDocking.h"
-#include "ZelTabDragRules.h"
-#include "ZelTabOrder.h"
-#include "ZelTextIconTabWidget.h"
+#include "docks/ZelDockWidgetFromTab.h"
+#include "docks/ZelDockWidgetTitle.h"
+#include "docks/ZelDocking.h"
+#include "docks/ZelTabDragRules.h"
+#include "docks/ZelTabOrder.h"
+#include "docks/ZelTextIconTabWidget.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -64,15 +64,14 @@ bool ZelDragOutEventFilter::eventFilter(QObject *object, QEvent *event)
     findLostRelease(event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
+        // A drag moves one dock, never the group that it floats in.
         if (widget == mainWindow_)
-            watchMainWindow(static_cast<QMouseEvent *>(event));
+            ZelDocking::suspendGroupedDragging(mainWindow_);
         else if (widget == tabs_->tabBar())
             press(static_cast<QMouseEvent *>(event));
         break;
     case QEvent::MouseMove:
-        if (widget == mainWindow_)
-            watchMainWindow(static_cast<QMouseEvent *>(event));
-        else
+        if (widget != mainWindow_)
             move(widget, static_cast<QMouseEvent *>(event));
         break;
     case QEvent::MouseButtonRelease:
@@ -95,25 +94,10 @@ void ZelDragOutEventFilter::findLostRelease(QEvent *event)
         return;
     const Qt::MouseButtons buttons =
         isMove ? static_cast<QMouseEvent *>(event)->buttons() : QGuiApplication::mouseButtons();
-    if (buttons == Qt::NoButton && groupedDraggingTaken_) {
-        groupedDraggingTaken_ = false;
-        ZelDocking::setGroupedDragging(mainWindow_, true);
-    }
+    if (buttons == Qt::NoButton)
+        ZelDocking::resumeGroupedDragging(mainWindow_);
     if (isMove && state_ != State::Idle && !buttons.testFlag(Qt::LeftButton))
         finish();
-}
-
-/// While a button is down only one dock is dragged, never the group that it floats in.
-void ZelDragOutEventFilter::watchMainWindow(QMouseEvent *event)
-{
-    if (event->type() == QEvent::MouseButtonPress) {
-        groupedDraggingTaken_ =
-            groupedDraggingTaken_ || ZelDocking::hasGroupedDragging(mainWindow_);
-        ZelDocking::setGroupedDragging(mainWindow_, false);
-    } else if (event->buttons() == Qt::NoButton) {
-        groupedDraggingTaken_ = false;
-        ZelDocking::setGroupedDragging(mainWindow_, true);
-    }
 }
 
 void ZelDragOutEventFilter::press(const QMouseEvent *event)

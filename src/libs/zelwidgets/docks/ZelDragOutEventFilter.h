@@ -34,8 +34,6 @@ protected:
 private:
     enum class State { Idle, Pressed, Detached };
 
-    void watchBar(QMouseEvent *event);
-    void watchMainWindow(QMouseEvent *event);
     void press(const QMouseEvent *event);
     void move(QWidget *widget, QMouseEvent *event);
     void release(QWidget *widget, QMouseEvent *event);
@@ -53,6 +51,5 @@ private:
     QPointer<ZelDockWidgetFromTab> dragged_;
     bool dragging_ = false;
     bool forwarding_ = false;
-    bool groupedDraggingTaken_ = false;
     State state_ = State::Idle;
 };

@@ -1,10 +1,10 @@
 #include "ZelTabWidgetDragDropHelper.h"
 
-#include "ZelDockWidgetFromTab.h"
-#include "ZelDocking.h"
-#include "ZelDragOutEventFilter.h"
-#include "ZelTabOrder.h"
-#include "ZelTextIconTabWidget.h"
+#include "docks/ZelDockWidgetFromTab.h"
+#include "docks/ZelDocking.h"
+#include "docks/ZelDragOutEventFilter.h"
+#include "docks/ZelTabOrder.h"
+#include "docks/ZelTextIconTabWidget.h"
 
 #include <QMainWindow>
 #include <QResizeEvent>

@@ -1,6 +1,6 @@
 #include "ZelTextIconTabWidget.h"
 
-#include "ZelDockWidgetFromTab.h"
+#include "docks/ZelDockWidgetFromTab.h"
 
 ZelTextIconTabWidget::ZelTextIconTabWidget(QWidget *parent)
     : ZelDecoratedTabWidget<ZelTextIconTabBar>(parent)
