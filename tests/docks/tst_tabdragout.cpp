@@ -86,6 +86,7 @@ private Q_SLOTS:
     void pageGoesOutAndComesBack();
     void lastTabStays();
     void dragTearsOutAndFollows();
+    void escapeCancelsDrag();
     void dragReordersAndIsStored();
     void nearDragDoesNothing();
     void menuTearsOutAndPutsBack();
@@ -245,6 +246,26 @@ void tst_tabdragout::dragTearsOutAndFollows()
     UserInput::release(bar, start + QPoint(90, 330));
     QVERIFY(!QGuiApplication::overrideCursor());
     QVERIFY(!QWidget::mouseGrabber());
+}
+
+void tst_tabdragout::escapeCancelsDrag()
+{
+    Window window;
+    QWidget *bar = window.tabs->tabBar();
+    QWidget *current = window.tabs->currentWidget();
+    const QPoint start = window.tabCenter(1);
+    UserInput::press(bar, start);
+    UserInput::move(bar, start + QPoint(0, 12));
+    UserInput::move(bar, start + QPoint(0, 250));
+    UserInput::move(bar, start + QPoint(60, 300));
+    QCOMPARE(window.order(), QStringLiteral("AC"));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QCOMPARE(window.order(), QStringLiteral("ABC"));
+    QCOMPARE(window.tabs->currentWidget(), current);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(!QWidget::mouseGrabber());
+    UserInput::release(bar, start + QPoint(60, 300));
+    QCOMPARE(window.order(), QStringLiteral("ABC"));
 }
 
 void tst_tabdragout::dragReordersAndIsStored()

@@ -1,5 +1,6 @@
 #include "ZelDragOutEventFilter.h"
 
+#include "KeyToSignalFilter.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
@@ -108,6 +109,7 @@ void ZelDragOutEventFilter::press(const QMouseEvent *event)
     if (tabs_->count() >= 2 && tabs_->tabBar()->tabAt(pressPos_) >= 0 && ZelDocking::isEnabled()) {
         state_ = State::Pressed;
         dragged_.clear();
+        before_ = {tabs_->currentWidget(), QApplication::focusWidget(), -1};
     }
 }
 
@@ -136,7 +138,8 @@ void ZelDragOutEventFilter::testTearOut(const QPoint &globalPoint)
 
 void ZelDragOutEventFilter::dragOut(const QPoint &globalPoint)
 {
-    dragged_ = tearOut(tabs_->tabBar()->tabAt(pressPos_));
+    before_.tab = tabs_->tabBar()->tabAt(pressPos_);
+    dragged_ = tearOut(before_.tab);
     if (!dragged_) {
         finish();
         return;
@@ -204,7 +207,7 @@ ZelDockWidgetFromTab *ZelDragOutEventFilter::tearOut(int tab)
     const QString title = tabs_->dockHeaderPrefix() + tabs_->tabText(tab);
     const QIcon icon = tabs_->tabIcon(tab);
     const QSize pageSize = page->size();
-    ZelTabOrder::removePosition(tabs_, page);
+    hadPosition_ = ZelTabOrder::removePosition(tabs_, page);
     tabs_->removeTab(tab);
     page->hide();
     page->setParent(nullptr);
@@ -225,10 +228,44 @@ void ZelDragOutEventFilter::setDragging(bool dragging)
     if (dragging == dragging_)
         return;
     dragging_ = dragging;
-    if (dragging)
+    if (dragging) {
         QGuiApplication::setOverrideCursor(Qt::DragMoveCursor);
-    else
+        keys_ = new KeyToSignalFilter(qApp);
+        connect(keys_, &KeyToSignalFilter::escapePressed, this, &ZelDragOutEventFilter::cancel);
+    } else {
         QGuiApplication::restoreOverrideCursor();
+        if (keys_) {
+            // It may be in its own signal.
+            qApp->removeEventFilter(keys_);
+            keys_->deleteLater();
+        }
+    }
+}
+
+void ZelDragOutEventFilter::cancel()
+{
+    const Before before = before_;
+    if (state_ == State::Detached && dragged_)
+        putDraggedBack();
+    if (before.currentPage && tabs_->indexOf(before.currentPage) >= 0)
+        tabs_->setCurrentWidget(before.currentPage);
+    if (before.focus)
+        before.focus->setFocus();
+    finish();
+}
+
+void ZelDragOutEventFilter::putDraggedBack()
+{
+    const QPointer<QWidget> page = dragged_->page();
+    // It lets go of the mouse by this, and does not dock where the pointer is.
+    dragged_->setFloating(true);
+    dragged_->forceRestoreInView();
+    const int tab = page ? tabs_->indexOf(page) : -1;
+    if (tab < 0)
+        return;
+    tabs_->tabBar()->moveTab(tab, before_.tab);
+    if (hadPosition_)
+        ZelTabOrder::store(tabs_);
 }
 
 void ZelDragOutEventFilter::finish()

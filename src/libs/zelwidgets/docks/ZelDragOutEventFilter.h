@@ -4,6 +4,7 @@
 #include <QPoint>
 #include <QPointer>
 
+class KeyToSignalFilter;
 class QMainWindow;
 class QMouseEvent;
 class QWidget;
@@ -11,7 +12,7 @@ class ZelDockWidgetFromTab;
 class ZelTextIconTabWidget;
 
 /// Watches the tab bar of a tab widget and its main window: drags tabs out into windows and into
-/// another order. It is the one owner of the override cursor of such a drag.
+/// another order. It is the one owner of the override cursor of such a drag, which Escape cancels.
 class ZelDragOutEventFilter : public QObject
 {
     Q_OBJECT
@@ -43,12 +44,23 @@ private:
     void forwardToDragged(const QMouseEvent *event);
     void reorder(const QPoint &globalPoint);
     void setDragging(bool dragging);
+    void cancel();
+    void putDraggedBack();
     void finish();
 
     ZelTextIconTabWidget *tabs_;
     QPointer<QMainWindow> mainWindow_;
     QPoint pressPos_;
     QPointer<ZelDockWidgetFromTab> dragged_;
+    QPointer<KeyToSignalFilter> keys_;
+    /// What Escape brings back.
+    struct Before
+    {
+        QPointer<QWidget> currentPage;
+        QPointer<QWidget> focus;
+        int tab = -1;
+    } before_;
+    bool hadPosition_ = false;
     bool dragging_ = false;
     bool forwarding_ = false;
     State state_ = State::Idle;

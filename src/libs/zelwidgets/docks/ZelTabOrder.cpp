@@ -78,10 +78,14 @@ void storePosition(const QTabWidget *tabs, const QWidget *page, int position)
         ZelSettings(tabs->objectName()).setValue(page->objectName(), position);
 }
 
-void removePosition(const QTabWidget *tabs, const QWidget *page)
+bool removePosition(const QTabWidget *tabs, const QWidget *page)
 {
-    if (canBeStored(tabs, page))
-        ZelSettings(tabs->objectName()).removeKey(page->objectName());
+    if (!canBeStored(tabs, page))
+        return false;
+    ZelSettings settings(tabs->objectName());
+    const bool wasThere = settings.hasKey(page->objectName());
+    settings.removeKey(page->objectName());
+    return wasThere;
 }
 
 void store(const QTabWidget *tabs)

@@ -15,7 +15,8 @@ void markOriginal(QTabWidget *tabs);
 bool isOriginal(const QTabWidget *tabs);
 
 void storePosition(const QTabWidget *tabs, const QWidget *page, int position);
-void removePosition(const QTabWidget *tabs, const QWidget *page);
+/// True if there was one.
+bool removePosition(const QTabWidget *tabs, const QWidget *page);
 /// Stores the present order.
 void store(const QTabWidget *tabs);
 
