@@ -79,6 +79,7 @@ protected:
 
     bool eventFilter(QObject *object, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void customEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void leaveEvent(QEvent *event) override;

@@ -1,12 +1,15 @@
 // The edges of a floating dock: dragging them and the snapping to the screen.
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockGeometry.h"
+#include "docks/ZelDockMenu.h"
 #include "docks/ZelDockWidget.h"
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScreen>
 
@@ -117,6 +120,18 @@ void ZelDockWidget::endResize()
 {
     d_->resizeState = 0;
     adjustCursor(0);
+}
+
+void ZelDockWidget::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!hitTest(event->globalPos())) {
+        QDockWidget::contextMenuEvent(event);
+        return;
+    }
+    QMenu *menu = ZelDockMenu::create(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
+    event->accept();
 }
 
 void ZelDockWidget::leaveEvent(QEvent *event)
