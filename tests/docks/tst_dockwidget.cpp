@@ -5,6 +5,7 @@
 #include "UserInput.h"
 
 #include <ZelCore/ZelSettings>
+#include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelDockWidgetTitle>
 #include <ZelWidgets/ZelToolButton>
@@ -71,6 +72,11 @@ class tst_dockwidget : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        IconColorTheme::instance()->loadThemeFile(
+            QStringLiteral(":/res/icon_themes/dark_theme.json"));
+    }
     void edges_data();
     void edges();
     void edgeDrags_data();

@@ -6,6 +6,7 @@
 #include "UserInput.h"
 
 #include <ZelCore/ZelSettings>
+#include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelDockWidgetFromTab>
 #include <ZelWidgets/ZelDockWidgetTitle>
 #include <ZelWidgets/ZelEqualSizeTabBar>
@@ -65,7 +66,7 @@ QAction *entryOfPage(QMenu *menu, QWidget *page)
     return nullptr;
 }
 
-void deleteLater()
+void runDeferredDeletes()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -77,6 +78,11 @@ class tst_tabdragout : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        IconColorTheme::instance()->loadThemeFile(
+            QStringLiteral(":/res/icon_themes/dark_theme.json"));
+    }
     void tearOutDistance_data();
     void tearOutDistance();
     void reorderTarget_data();
@@ -105,7 +111,7 @@ void tst_tabdragout::tearOutDistance_data()
     QTest::newRow("below, far") << QPoint(150, 159) << true;
     QTest::newRow("above, far") << QPoint(150, 60) << true;
     QTest::newRow("beside, both ways count") << QPoint(320, 141) << true;
-    QTest::newRow("beside, near") << QPoint(320, 138) << false;
+    QTest::newRow("beside, near") << QPoint(320, 137) << false;
 }
 
 void tst_tabdragout::tearOutDistance()
@@ -189,7 +195,7 @@ void tst_tabdragout::pageGoesOutAndComesBack()
     QSignalSpy closed(dock, &ZelDockWidget::closed);
     dock->close();
     QCOMPARE(closed.count(), 1);
-    deleteLater();
+    runDeferredDeletes();
     QVERIFY(!dock);
     QCOMPARE(window.order(), QStringLiteral("BCA"));
     QCOMPARE(window.tabs->tabText(2), QStringLiteral("A"));
@@ -218,7 +224,7 @@ void tst_tabdragout::lastTabStays()
     QCOMPARE(window.tabs->count(), 1);
 
     window.tabs->setDockMode(false);
-    deleteLater();
+    runDeferredDeletes();
     QVERIFY(!window.tabs->changeTab2Window(0));
     ZelTextIconTabWidget alone;
     alone.addTab(new QWidget, QStringLiteral("a"));
@@ -308,7 +314,7 @@ void tst_tabdragout::menuTearsOutAndPutsBack()
     QCOMPARE(window.order(), QStringLiteral("AB"));
     entry->trigger();
     QCOMPARE(window.order(), QStringLiteral("ABC"));
-    deleteLater();
+    runDeferredDeletes();
 
     window.tabs->changeTab2Window(2);
     menu.reset(bar->createContextMenu());
@@ -386,7 +392,7 @@ void tst_tabdragout::ownersMayDie()
         UserInput::move(bar, start + QPoint(0, 260));
         UserInput::release(bar, start + QPoint(0, 260));
     }
-    deleteLater();
+    runDeferredDeletes();
     QVERIFY(!dock);
     QCOMPARE(page.isNull(), dying != QLatin1String("dock"));
     window.reset();

@@ -32,6 +32,9 @@ ZelDockWidgetFromTab::~ZelDockWidgetFromTab()
 {
     disconnect();
     putPageBack();
+    // A page that stays dies with the widget below this class, which is no receiver any more.
+    if (page_)
+        page_->disconnect(this);
 }
 
 ZelTextIconTabWidget *ZelDockWidgetFromTab::tabWidget() const

@@ -100,18 +100,25 @@ QSize ZelDockWidgetTitle::sizeHint() const
 
 QSize ZelDockWidgetTitle::minimumSizeHint() const
 {
-    return {width() - d_->leftOfButtons + wideGap, sizeHint().height()};
+    int width = wideGap + smallGap;
+    for (const ZelToolButton *button : {d_->dock, d_->floating, d_->close}) {
+        if (!button->isHidden())
+            width += iconSide + wideGap;
+    }
+    return {width, sizeHint().height()};
 }
 
 void ZelDockWidgetTitle::setFeatures(QDockWidget::DockWidgetFeatures features)
 {
     d_->features = features;
+    updateGeometry();
     showButtons();
 }
 
 void ZelDockWidgetTitle::floatingChanged(bool floating)
 {
     d_->isFloating = floating;
+    updateGeometry();
     showButtons();
 }
 
