@@ -237,12 +237,6 @@ void tst_dockwidget::edgeOfFloaterIsDragged()
     QCOMPARE(dock->geometry().right(), 519);
     QCOMPARE(dock->width(), dock->minimumSizeHint().expandedTo(dock->minimumSize()).width());
 
-    UserInput::move(dock, QPoint(1, 100), {}, Qt::NoButton);
-    QCOMPARE(dock->zelTitleWidget()->cursor().shape(), Qt::SizeHorCursor);
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(dock, &leave);
-    QCOMPARE(dock->zelTitleWidget()->cursor().shape(), Qt::ArrowCursor);
-
     dock->setFloating(false);
     const QRect docked = dock->geometry();
     UserInput::drag(dock, QPoint(1, 50), QPoint(-40, 50));

@@ -34,6 +34,8 @@ ZelDragOutEventFilter::ZelDragOutEventFilter(ZelTextIconTabWidget *tabs)
 {
     setObjectName(name());
     ZelTabOrder::markOriginal(tabs);
+    // Moves without a button tell of a release that never came.
+    tabs->tabBar()->setMouseTracking(true);
     tabs->tabBar()->installEventFilter(this);
     if (mainWindow_)
         mainWindow_->installEventFilter(this);
