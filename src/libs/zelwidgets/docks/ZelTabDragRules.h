@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QList>
+#include <QPoint>
+#include <QRect>
+
+/// What a drag of a tab means, apart from the widgets.
+namespace ZelTabDragRules {
+
+/// True if the pointer has left the tab bar far enough to take the tab with it: by at least four
+/// times the distance that starts a drag. Above and below the bar the way is straight up or down,
+/// elsewhere it goes along both axes from the nearest corner.
+bool isTornOut(const QRect &bar, const QPoint &pointer, int startDragDistance);
+
+/// Where the tab goes if it is let go at x; a point beyond the tabs counts as the outermost one.
+int reorderTarget(const QList<QRect> &tabs, int from, int x);
+
+} // namespace ZelTabDragRules

@@ -1,0 +1,40 @@
+#include "ZelTornOutName.h"
+
+#include "ZelStoredValue.h"
+
+#include <QWidget>
+
+#include <algorithm>
+
+namespace ZelTornOutName {
+namespace {
+
+QString stem(const QWidget *page)
+{
+    if (!page)
+        return QStringLiteral("ErrorInName");
+    QString name = page->objectName();
+    std::replace_if(
+        name.begin(), name.end(),
+        [](QChar c) { return !c.isLetterOrNumber() && c != u'_' && c != u'-'; }, QChar(u'_'));
+    return QLatin1String("ZelDW") + name;
+}
+
+} // namespace
+
+QString stable(const QWidget *page)
+{
+    return stem(page) + u'_';
+}
+
+QString takeNext(const QWidget *page)
+{
+    const QString key = QStringLiteral("windowSeq");
+    ZelSettings settings(page ? page->objectName() + QLatin1String("DockWdg")
+                              : QStringLiteral("ProblematicNullPtrError"));
+    const uint number = storedValue(settings, key, 0U) + 1;
+    settings.setValue(key, number);
+    return stem(page) + QString::number(number);
+}
+
+} // namespace ZelTornOutName
