@@ -1,6 +1,7 @@
 #include "ZelListView.h"
 
 #include "lists/ZelItemDrag.h"
+#include "lists/ZelZoomAnchor.h"
 #include "lists/ZelZoomRequest.h"
 #include "shortcuts/ZelShortcut.h"
 
@@ -118,16 +119,20 @@ ZelListViewWithZoom::ZelListViewWithZoom(QWidget *parent)
 
 void ZelListViewWithZoom::keyPressEvent(QKeyEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this);
         Q_EMIT resize(*delta);
-    else
+    } else {
         QAbstractItemView::keyPressEvent(event);
+    }
 }
 
 void ZelListViewWithZoom::wheelEvent(QWheelEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this, event->position().toPoint());
         Q_EMIT resize(*delta);
-    else
+    } else {
         ZelListView::wheelEvent(event);
+    }
 }
