@@ -97,6 +97,7 @@ QWidget *IconListPage::toolRow()
     auto *list = new QRadioButton(tr("Lis&t"), tools);
     icons->setChecked(true);
     connect(icons, &QRadioButton::toggled, this, [this](bool asIcons) {
+        const ZelZoomAnchor anchor(library_);
         if (asIcons)
             library_->setIconMode();
         else

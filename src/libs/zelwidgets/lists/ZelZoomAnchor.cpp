@@ -53,10 +53,9 @@ ZelZoomAnchor::~ZelZoomAnchor()
     const QPoint moved = view_->visualRect(index_).center() - center_;
     const bool isByPixel = view_->viewMode() == QListView::IconMode ||
                            view_->verticalScrollMode() == QListView::ScrollPerPixel;
-    if (!isByPixel) {
-        view_->scrollTo(index_);
-        return;
+    if (isByPixel) {
+        scrollBy(view_->verticalScrollBar(), moved.y());
+        scrollBy(view_->horizontalScrollBar(), view_->isRightToLeft() ? -moved.x() : moved.x());
     }
-    scrollBy(view_->verticalScrollBar(), moved.y());
-    scrollBy(view_->horizontalScrollBar(), view_->isRightToLeft() ? -moved.x() : moved.x());
+    view_->scrollTo(index_);
 }

@@ -11,8 +11,8 @@
 /// Keeps a place of a list of icons where it is while the icons change their size.
 ///
 /// Lives around the change: its destructor lays the list out and scrolls it so that the item of the
-/// place is where it was. The lists that ask for a zoom hold one while they do; an application that
-/// changes the size by itself, with a slider, holds its own.
+/// place is where it was, and whole in sight. The lists that ask for a zoom hold one while they do;
+/// an application that changes the size by itself, with a slider, holds its own.
 class ZELWIDGETS_EXPORT ZelZoomAnchor
 {
 public:
