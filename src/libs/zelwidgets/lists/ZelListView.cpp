@@ -5,10 +5,8 @@
 #include "lists/ZelZoomRequest.h"
 #include "shortcuts/ZelShortcut.h"
 
-#include <QDrag>
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -103,14 +101,7 @@ bool ZelListView::dropOn(QDropEvent const *event, QList<QPersistentModelIndex> c
 
 void ZelListView::startDrag(Qt::DropActions)
 {
-    const QModelIndexList indices = draggableIndices();
-    QMimeData *data = model() && !indices.isEmpty() ? model()->mimeData(indices) : nullptr;
-    if (!data)
-        return;
-    auto *drag = new QDrag(this);
-    drag->setMimeData(data);
-    drag->setPixmap(ZelItemDrag::pictureOf(indices, Qt::DecorationRole, devicePixelRatioF()));
-    drag->exec(model()->supportedDragActions(), defaultDropAction());
+    ZelItemDrag::start(this, draggableIndices(), Qt::DecorationRole);
 }
 
 ZelListViewWithZoom::ZelListViewWithZoom(QWidget *parent)
