@@ -237,6 +237,16 @@ void ColorListsTest::firstRunShowsTheChart()
     QCOMPARE(content->colors[0].space(), ZelColor::Space::XYZ);
     QCOMPARE(content->colors[3], fromQColor(QColor(QStringLiteral("#576c43"))));
     QCOMPARE(content->colors[3].name(), "Foliage");
+
+    store().removeKey(swatchesKey);
+    {
+        const ZelColorSwatchListView untouched;
+        const ZelColorSwatchListView edited;
+        edited.swatchModel()->addColor(ZelColor());
+    }
+    const auto both = ZelSwatchStream::read(store().value(swatchesKey).toByteArray());
+    QVERIFY(both);
+    QCOMPARE(both->colors.size(), 25U);
 }
 
 void ColorListsTest::swatchesComeBack()

@@ -111,6 +111,7 @@ private Q_SLOTS:
     void twoIconsAlwaysFit();
     void theSliderFollowsTheList();
     void zoomIsAskedFor();
+    void zoomKeepsItsPlace();
     void dropsGoToTheSelection_data();
     void dropsGoToTheSelection();
     void modelsMayChangeDuringADrop();
@@ -243,6 +244,45 @@ void IconListsTest::zoomIsAskedFor()
             deltas << call.first().toInt();
         QCOMPARE(deltas, expected);
     }
+}
+
+void IconListsTest::zoomKeepsItsPlace()
+{
+    ZelListWidgetWithZoom list;
+    list.setViewMode(QListView::IconMode);
+    list.setUniformItemSizes(true);
+    list.setResizeMode(QListView::Adjust);
+    QPixmap picture(256, 256);
+    picture.fill(Qt::gray);
+    for (int i = 0; i < 500; ++i)
+        list.addItem(new QListWidgetItem(QIcon(picture), QString::number(i)));
+    list.setIconSize({32, 32});
+    connect(&list, qOverload<int>(&ZelListWidgetWithZoom::resize), &list, [&list](int delta) {
+        const int side = list.iconSize().width() + delta / 10;
+        list.setIconSize({side, side});
+    });
+    list.QWidget::resize(400, 300);
+    list.show();
+    list.setCurrentRow(300);
+    list.scrollToItem(list.currentItem(), QListView::PositionAtCenter);
+    const auto middleOf = [&list](int row) {
+        return list.visualItemRect(list.item(row)).center().y();
+    };
+    const int before = middleOf(300);
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(&list, Qt::Key_Plus, Qt::ControlModifier);
+    QCOMPARE(list.iconSize().width(), 92);
+    QCOMPARE(middleOf(300), before);
+
+    const QPoint cursor = list.viewport()->rect().center();
+    const QListWidgetItem *below = list.itemAt(cursor);
+    QVERIFY(below);
+    const int place = middleOf(list.row(below));
+    QWheelEvent wheel(QPointF(cursor), list.viewport()->mapToGlobal(QPointF(cursor)), {}, {0, -120},
+                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(list.viewport(), &wheel);
+    QCOMPARE(list.iconSize().width(), 80);
+    QCOMPARE(middleOf(list.row(below)), place);
 }
 
 void IconListsTest::dropsGoToTheSelection_data()

@@ -157,6 +157,7 @@ void TreeViewTest::iconsAreAtTheLeftWhereOneReadsFromTheRight()
 void TreeViewTest::keysGoFromIconToIcon()
 {
     Forest forest;
+    forest.model.item(1)->setData(true, eyeRole);
     forest.view.setCurrentIndex(forest.model.index(1, 0));
     forest.view.setFocus();
     QTRY_VERIFY(forest.view.hasFocus());
@@ -178,6 +179,11 @@ void TreeViewTest::keysGoFromIconToIcon()
     QTest::keyClick(&forest.view, Qt::Key_Left, Qt::AltModifier);
     QTest::keyClick(&forest.view, Qt::Key_Space);
     QCOMPARE(forest.delegate.clicks.size(), 3);
+    // An icon that isn't shown is passed over.
+    QTest::keyClick(&forest.view, Qt::Key_Down);
+    QTest::keyClick(&forest.view, Qt::Key_Right, Qt::AltModifier);
+    QTest::keyClick(&forest.view, Qt::Key_Space);
+    QCOMPARE(forest.delegate.clicks.last(), QStringLiteral("0 of 3"));
 }
 
 void TreeViewTest::iconsOfTheCurrentRowAreToldAsCheckBoxes()
@@ -194,6 +200,7 @@ void TreeViewTest::iconsOfTheCurrentRowAreToldAsCheckBoxes()
     QCOMPARE(tree->indexOfChild(lock), cells);
     QCOMPARE(lock->text(QAccessible::Name), QStringLiteral("Icon 1, b"));
     QVERIFY(lock->state().checked && !tree->child(cells + 1)->state().checked);
+    QVERIFY(!lock->state().invisible && tree->child(cells + 1)->state().invisible);
     const QPoint place = forest->view.viewport()->mapToGlobal(forest->place(1, 0));
     QVERIFY(tree->childAt(place.x(), place.y()) == lock);
     lock->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());

@@ -94,14 +94,13 @@ void ColorDialogPage::addOwners()
     addOwner(grid, {0.5F, 0.5F, 0.5F},
              {tr("Modal"), [](ZelColorDialog *dialog) { dialog->hideOldNewSelector(); }, true});
     auto *column = new QVBoxLayout;
+    column->setSpacing(grid->verticalSpacing());
     row->addLayout(column);
     auto *caption = new QLabel(tr("&Library"), this);
     caption->setBuddy(library_);
     column->addWidget(caption);
     column->addWidget(library_);
-    column->addStretch();
     library_->setAccessibleName(tr("Library"));
-    caption->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     store(several());
     row->addStretch();
 }

@@ -7,6 +7,7 @@
 #include <ZelWidgets/ZelListView>
 #include <ZelWidgets/ZelListWidget>
 #include <ZelWidgets/ZelRemoveIconProxyModel>
+#include <ZelWidgets/ZelZoomAnchor>
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -96,6 +97,7 @@ QWidget *IconListPage::toolRow()
     auto *list = new QRadioButton(tr("Lis&t"), tools);
     icons->setChecked(true);
     connect(icons, &QRadioButton::toggled, this, [this](bool asIcons) {
+        const ZelZoomAnchor anchor(library_);
         if (asIcons)
             library_->setIconMode();
         else
@@ -111,8 +113,10 @@ QWidget *IconListPage::toolRow()
     sizes_->setValue(firstIcon);
     sizes_->setFixedWidth(collectionWidth);
     connect(sizes_, &QSlider::valueChanged, this, [this](int side) {
-        if (sizes_->isEnabled())
-            library_->setIconSize(QSize(side, side));
+        if (!sizes_->isEnabled())
+            return;
+        const ZelZoomAnchor anchor(library_);
+        library_->setIconSize(QSize(side, side));
     });
     connect(library_, qOverload<int>(&MaterialList::resize), this, &IconListPage::zoom);
     new EnsureTwoIconsOnSliderMax(sizes_, library_);

@@ -59,6 +59,13 @@ QString legacyKey()
     return QStringLiteral("legacy_color_handled");
 }
 
+bool isAnythingStored(const ZelSettings &settings)
+{
+    const QVariant stored = settings.value(colorsKey());
+    return stored.isValid() && !(stored.metaType() == QMetaType::fromType<QByteArray>() &&
+                                 stored.toByteArray().isEmpty());
+}
+
 /// Others couldn't be stored.
 bool isFinite(const ZelColor &color)
 {
@@ -88,14 +95,9 @@ ColorSwatchModel::~ColorSwatchModel() = default;
 bool ColorSwatchModel::load()
 {
     ZelSettings settings = store();
-    const QVariant stored = settings.value(colorsKey());
-    const auto bytes = storedValue(settings, colorsKey(), QByteArray());
-    const bool isThere =
-        stored.isValid() &&
-        !(stored.metaType() == QMetaType::fromType<QByteArray>() && bytes.isEmpty());
-    if (!isThere)
+    if (!isAnythingStored(settings))
         return false;
-    isStored_ = true;
+    const auto bytes = storedValue(settings, colorsKey(), QByteArray());
     std::optional<ZelSwatchStream::Content> content = ZelSwatchStream::read(bytes);
     isUnread_ = !content || !content->isWhole;
     if (isUnread_)
@@ -107,7 +109,7 @@ bool ColorSwatchModel::load()
     const bool isLegacy = !storedValue(settings, legacyKey(), false);
     settings.setValue(legacyKey(), true);
     if (isLegacy && std::erase(colors_, ZelColor()) > 0) {
-        isStored_ = false;
+        isEdited_ = true;
         save();
     }
     return true;
@@ -122,14 +124,15 @@ void ColorSwatchModel::addChart()
 
 void ColorSwatchModel::save()
 {
-    if (isStored_)
-        return;
     ZelSettings settings = store();
+    // The chart of a first run doesn't undo what another list stored meanwhile.
+    if (!isEdited_ && isAnythingStored(settings))
+        return;
     if (isUnread_)
         settings.setValue(unreadKey(), settings.value(colorsKey()));
     settings.setValue(colorsKey(), ZelSwatchStream::write(colors_));
     isUnread_ = false;
-    isStored_ = true;
+    isEdited_ = false;
 }
 
 ZelColor ColorSwatchModel::color(int row) const
@@ -158,7 +161,7 @@ void ColorSwatchModel::addColors(std::vector<ZelColor> colors)
     const int first = rowCount();
     beginInsertRows({}, first, first + int(colors.size()) - 1);
     colors_.insert(colors_.end(), colors.begin(), colors.end());
-    isStored_ = false;
+    isEdited_ = true;
     endInsertRows();
 }
 
@@ -199,7 +202,7 @@ bool ColorSwatchModel::removeRows(int row, int count, const QModelIndex &parent)
         return false;
     beginRemoveRows({}, row, row + count - 1);
     colors_.erase(colors_.begin() + row, colors_.begin() + row + count);
-    isStored_ = false;
+    isEdited_ = true;
     endRemoveRows();
     return true;
 }

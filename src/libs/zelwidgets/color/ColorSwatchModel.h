@@ -31,8 +31,8 @@ public:
     /// Removes these rows; rows that aren't there and doubles don't matter.
     void removeColors(std::vector<int> rows);
 
-    /// Stores the colours, unless they are still what was loaded. Stored data that couldn't be read
-    /// in full are kept under the key "swatches_unread", with a warning.
+    /// Stores the colours, unless nobody edited them and some are stored. Stored data that couldn't
+    /// be read in full are kept under the key "swatches_unread", with a warning.
     void save();
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -54,7 +54,7 @@ private:
     void addChart();
 
     std::vector<ZelColor> colors_;
-    bool isStored_ = false;
+    bool isEdited_ = false;
     bool isUnread_ = false;
     std::unique_ptr<class ZelColorIcons> icons_;
 };

@@ -2,8 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QCursor>
+#include <QDrag>
 #include <QDropEvent>
 #include <QIcon>
+#include <QMimeData>
 #include <QPainter>
 #include <QPointer>
 
@@ -95,6 +97,18 @@ QPixmap ZelItemDrag::pictureOf(const QModelIndexList &indices, int role, qreal p
                                : qvariant_cast<QIcon>(data);
         return icon.pixmap(pictureSize, pixelRatio);
     });
+}
+
+void ZelItemDrag::start(QAbstractItemView *view, const QModelIndexList &indices, int pictureRole)
+{
+    const QAbstractItemModel *model = view->model();
+    QMimeData *data = model && !indices.isEmpty() ? model->mimeData(indices) : nullptr;
+    if (!data)
+        return;
+    auto *drag = new QDrag(view);
+    drag->setMimeData(data);
+    drag->setPixmap(pictureOf(indices, pictureRole, view->devicePixelRatioF()));
+    drag->exec(model->supportedDragActions(), view->defaultDropAction());
 }
 
 void ZelItemDrag::hearToolTips(const QAbstractItemView *view, const QEvent *event,

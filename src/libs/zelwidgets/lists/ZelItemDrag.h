@@ -41,6 +41,9 @@ QPixmap picture(qsizetype items, qreal pixelRatio, const std::function<QPixmap(q
 /// The same for pictures in a role of a model, which may be icons or pixmaps.
 QPixmap pictureOf(const QModelIndexList &indices, int role, qreal pixelRatio);
 
+/// Drags what the model says of the indices, with their pictures; nothing if it says nothing.
+void start(QAbstractItemView *view, const QModelIndexList &indices, int pictureRole);
+
 /// Asks for a tool tip, or for its end, on the events that tell so.
 void hearToolTips(const QAbstractItemView *view, const QEvent *event,
                   const std::function<void(const QModelIndex &)> &show,

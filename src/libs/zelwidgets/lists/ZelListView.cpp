@@ -1,13 +1,12 @@
 #include "ZelListView.h"
 
 #include "lists/ZelItemDrag.h"
+#include "lists/ZelZoomAnchor.h"
 #include "lists/ZelZoomRequest.h"
 #include "shortcuts/ZelShortcut.h"
 
-#include <QDrag>
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QPointer>
 #include <QWheelEvent>
 
@@ -102,14 +101,7 @@ bool ZelListView::dropOn(QDropEvent const *event, QList<QPersistentModelIndex> c
 
 void ZelListView::startDrag(Qt::DropActions)
 {
-    const QModelIndexList indices = draggableIndices();
-    QMimeData *data = model() && !indices.isEmpty() ? model()->mimeData(indices) : nullptr;
-    if (!data)
-        return;
-    auto *drag = new QDrag(this);
-    drag->setMimeData(data);
-    drag->setPixmap(ZelItemDrag::pictureOf(indices, Qt::DecorationRole, devicePixelRatioF()));
-    drag->exec(model()->supportedDragActions(), defaultDropAction());
+    ZelItemDrag::start(this, draggableIndices(), Qt::DecorationRole);
 }
 
 ZelListViewWithZoom::ZelListViewWithZoom(QWidget *parent)
@@ -118,16 +110,20 @@ ZelListViewWithZoom::ZelListViewWithZoom(QWidget *parent)
 
 void ZelListViewWithZoom::keyPressEvent(QKeyEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this);
         Q_EMIT resize(*delta);
-    else
+    } else {
         QAbstractItemView::keyPressEvent(event);
+    }
 }
 
 void ZelListViewWithZoom::wheelEvent(QWheelEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this, event->position().toPoint());
         Q_EMIT resize(*delta);
-    else
+    } else {
         ZelListView::wheelEvent(event);
+    }
 }

@@ -1,5 +1,6 @@
 #include "ZelListWidget.h"
 
+#include "lists/ZelZoomAnchor.h"
 #include "lists/ZelZoomRequest.h"
 
 #include <QDropEvent>
@@ -38,18 +39,22 @@ ZelListWidgetWithZoom::ZelListWidgetWithZoom(QWidget *parent)
 
 void ZelListWidgetWithZoom::keyPressEvent(QKeyEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this);
         Q_EMIT resize(*delta);
-    else
+    } else {
         QAbstractItemView::keyPressEvent(event);
+    }
 }
 
 void ZelListWidgetWithZoom::wheelEvent(QWheelEvent *event)
 {
-    if (const auto delta = ZelZoomRequest::of(event))
+    if (const auto delta = ZelZoomRequest::of(event)) {
+        const ZelZoomAnchor anchor(this, event->position().toPoint());
         Q_EMIT resize(*delta);
-    else
+    } else {
         QListWidget::wheelEvent(event);
+    }
 }
 
 QSize ZelListWidgetWithSizeHint::sizeHint() const

@@ -1,5 +1,8 @@
 #include "ZelSideBarNavigation.h"
 
+#include <QHeaderView>
+#include <QResizeEvent>
+
 namespace {
 
 constexpr double spare = 1.1;
@@ -46,6 +49,7 @@ ZelSideBarNavigationTree::ZelSideBarNavigationTree(QWidget *parent)
     makeSideBar(this);
     setRootIsDecorated(false);
     setHeaderHidden(true);
+    header()->setStretchLastSection(false);
 }
 
 QTreeWidget *ZelSideBarNavigationTree::create(QWidget *parent)
@@ -61,4 +65,11 @@ bool ZelSideBarNavigationTree::isNewSideBarStyle(QTreeWidget const *tree)
 QSize ZelSideBarNavigationTree::sizeHint() const
 {
     return withSpare(sizeHintForColumn(0), QTreeWidget::sizeHint().height());
+}
+
+// A hidden header doesn't follow the width by itself, and a narrow bar would scroll sideways.
+void ZelSideBarNavigationTree::resizeEvent(QResizeEvent *event)
+{
+    header()->resizeSection(0, event->size().width());
+    QTreeWidget::resizeEvent(event);
 }

@@ -36,6 +36,9 @@ public:
 
     QSize sizeHint() const override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     explicit ZelSideBarNavigationTree(QWidget *parent);
 };

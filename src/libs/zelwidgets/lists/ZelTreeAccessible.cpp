@@ -172,6 +172,7 @@ QAccessible::State Icon::state() const
     state.invalid = !isValid();
     if (state.invalid)
         return state;
+    state.invisible = !icons().isShown(icon_);
     state.focusable = true;
     state.checkable = true;
     state.checked = icons().isActive(icon_);

@@ -118,10 +118,10 @@ void ZelTreeItemDelegate::paintIcons(QPainter *painter, const QRect &row,
     const int y = iconVerticalOffset(row);
     for (std::size_t at = 0; at < icons_.size(); ++at) {
         const IconAndRole &entry = icons_[at];
-        const bool isActive = isIconActive(at, index);
-        if (!entry.alwaysVisible && !isActive)
+        if (!isShown(at, index))
             continue;
-        const bool isReplaced = entry.alwaysVisible && isActive && !entry.activeIcon.isNull();
+        const bool isReplaced =
+            entry.alwaysVisible && isIconActive(at, index) && !entry.activeIcon.isNull();
         const bool isHot = isFramed(at, index) || iconRect(at, row).contains(cursor);
         const QRect place = mirrored(QRect(QPoint(x, y), iconSize_), row);
         if (isFramed(at, index)) {
@@ -164,10 +164,28 @@ bool ZelTreeItemDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
     return QStyledItemDelegate::editorEvent(event, model, option, index);
 }
 
+bool ZelTreeItemDelegate::isShown(std::size_t icon, const QModelIndex &index) const
+{
+    return icons_[icon].alwaysVisible || isIconActive(icon, index);
+}
+
 bool ZelTreeItemDelegate::isFramed(std::size_t icon, const QModelIndex &index) const
 {
     return view_ && framed_ == int(icon) && view_->hasFocus() && index.column() == 0 &&
            index.siblingAtColumn(0) == view_->currentIndex().siblingAtColumn(0);
+}
+
+/// The next icon of the row, round and round, from one that may be none; -1 if none is shown.
+int ZelTreeItemDelegate::shownFrom(int icon, int step, const QModelIndex &index) const
+{
+    const int count = int(icons_.size());
+    int at = icon < 0 && step < 0 ? 0 : icon;
+    for (int tried = 0; tried < count; ++tried) {
+        at = (at + step + count) % count;
+        if (isShown(std::size_t(at), index))
+            return at;
+    }
+    return -1;
 }
 
 void ZelTreeItemDelegate::frame(int icon)
@@ -191,11 +209,11 @@ bool ZelTreeItemDelegate::keyPressed(QKeyEvent *event)
         // The first icon is the outermost one.
         const Qt::Key inwards = view_->isRightToLeft() ? Qt::Key_Right : Qt::Key_Left;
         const int step = event->key() == inwards ? 1 : -1;
-        frame(framed_ < 0 ? (step > 0 ? 0 : count - 1) : (framed_ + step + count) % count);
+        frame(shownFrom(framed_, step, current));
         return true;
     }
     if (event->key() == Qt::Key_Space && framed_ >= 0 && framed_ < count &&
-        event->modifiers() == Qt::NoModifier) {
+        event->modifiers() == Qt::NoModifier && isShown(std::size_t(framed_), current)) {
         iconClicked(std::size_t(framed_), current);
         return true;
     }

@@ -73,8 +73,10 @@ private:
     QRect mirrored(const QRect &icon, const QRect &row) const;
     void paintIcons(QPainter *painter, const QRect &row, const QModelIndex &index) const;
     bool isPaintedDisabled(const QModelIndex &index) const;
+    bool isShown(std::size_t icon, const QModelIndex &index) const;
     bool isFramed(std::size_t icon, const QModelIndex &index) const;
     bool keyPressed(QKeyEvent *event);
+    int shownFrom(int icon, int step, const QModelIndex &index) const;
     void frame(int icon);
 
     QPointer<QAbstractItemView> view_;

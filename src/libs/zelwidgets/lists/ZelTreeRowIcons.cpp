@@ -22,6 +22,11 @@ QString ZelTreeRowIcons::text(int icon) const
     return ZelTreeView::tr("%1, %2").arg(name, row_.data().toString());
 }
 
+bool ZelTreeRowIcons::isShown(int icon) const
+{
+    return delegate_->isShown(std::size_t(icon), row_);
+}
+
 bool ZelTreeRowIcons::isActive(int icon) const
 {
     return delegate_->isIconActive(std::size_t(icon), row_);

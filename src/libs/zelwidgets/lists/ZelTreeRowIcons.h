@@ -15,6 +15,7 @@ public:
 
     int count() const;
     QString text(int icon) const;
+    bool isShown(int icon) const;
     bool isActive(int icon) const;
     bool isFramed(int icon) const;
     /// In the viewport.

@@ -5,10 +5,8 @@
 #include "shortcuts/ZelShortcut.h"
 #include "theme/ZelFontMetrics.h"
 
-#include <QDrag>
 #include <QDropEvent>
 #include <QIcon>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QPointer>
 
@@ -136,12 +134,5 @@ void ZelTreeView::dropOnSelection(QDropEvent *event)
 
 void ZelTreeView::startDrag(Qt::DropActions)
 {
-    const QModelIndexList indices = draggableIndices();
-    QMimeData *data = model() && !indices.isEmpty() ? model()->mimeData(indices) : nullptr;
-    if (!data)
-        return;
-    auto *drag = new QDrag(this);
-    drag->setMimeData(data);
-    drag->setPixmap(ZelItemDrag::pictureOf(indices, thumbnailRole_, devicePixelRatioF()));
-    drag->exec(model()->supportedDragActions(), defaultDropAction());
+    ZelItemDrag::start(this, draggableIndices(), thumbnailRole_);
 }
