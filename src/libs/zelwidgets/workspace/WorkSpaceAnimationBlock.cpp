@@ -12,7 +12,8 @@ WorkSpaceAnimationBlock::WorkSpaceAnimationBlock(QMainWindow *window)
     const QString key = QStringLiteral("BlockWorkspaceAnimations");
     ZelSettings settings(QStringLiteral("ui"));
     const bool isOn = storedValue(settings, key, false);
-    settings.setValue(key, isOn);
+    if (settings.value(key) != QVariant(isOn))
+        settings.setValue(key, isOn);
     if (!isOn || !window)
         return;
     for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {

@@ -21,7 +21,8 @@ bool readSwitch(const QString &key, bool fallback)
 {
     ZelSettings settings(QStringLiteral("WorkSpaces"));
     const bool value = storedValue(settings, key, fallback);
-    settings.setValue(key, value);
+    if (settings.value(key) != QVariant(value))
+        settings.setValue(key, value);
     return value;
 }
 
