@@ -80,7 +80,8 @@ void WorkSpaceTextDialog::moveToOpener()
     const QWidget *opener = parentWidget();
     QPoint place = QCursor::pos();
     if (opener)
-        place = opener->mapToGlobal(QPoint(0, opener->height())) - QPoint(0, fontMetrics().height());
+        place =
+            opener->mapToGlobal(QPoint(0, opener->height())) - QPoint(0, fontMetrics().height());
     const QScreen *target = QGuiApplication::screenAt(place);
     if (!target)
         target = screen();
