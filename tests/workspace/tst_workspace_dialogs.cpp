@@ -1,6 +1,7 @@
 #include "TestCase.h"
 #include "UserInput.h"
 
+#include "theme/IconColorTheme.h"
 #include "workspace/WorkSpaceExchange.h"
 #include "workspace/WorkSpaceFiles.h"
 #include "workspace/WorkSpaceMaintainDialog.h"
@@ -132,6 +133,7 @@ class TestWorkspaceDialogs : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void asksForAName();
     void editsNames();
     void movesRows();
@@ -145,6 +147,11 @@ private Q_SLOTS:
     void hasAKeyboardMenu();
     void survivesTheEndOfItsParent();
 };
+
+void TestWorkspaceDialogs::initTestCase()
+{
+    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/dark_theme.json"));
+}
 
 void TestWorkspaceDialogs::asksForAName()
 {
