@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QItemSelection>
 #include <QPointer>
+#include <QShortcut>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -116,8 +117,11 @@ QWidget *WorkSpaceMaintainDialog::createSideBar()
         layout->addWidget(button);
     layout->addStretch();
 
-    up_->setShortcut(Qt::ALT | Qt::Key_Up);
-    down_->setShortcut(Qt::ALT | Qt::Key_Down);
+    // A button's own shortcut plays a press, and drops keys that come faster.
+    const auto *upKey = new QShortcut(Qt::ALT | Qt::Key_Up, this);
+    const auto *downKey = new QShortcut(Qt::ALT | Qt::Key_Down, this);
+    connect(upKey, &QShortcut::activated, up_, &QToolButton::click);
+    connect(downKey, &QShortcut::activated, down_, &QToolButton::click);
     connect(up_, &QToolButton::clicked, this, [this] { moveCurrentRow(-1); });
     connect(down_, &QToolButton::clicked, this, [this] { moveCurrentRow(1); });
     connect(import_, &QToolButton::clicked, this, &WorkSpaceMaintainDialog::importFromFiles);
