@@ -21,4 +21,6 @@ struct WorkSpaceRibbonData
     QList<DefaultWorkSpaceInfo> factory;
     QPointer<QWidget> libraryWindow;
     QPointer<QWidget> projectWindow;
+    /// Calls of the menu that run events and aren't over.
+    int runningCalls = 0;
 };

@@ -50,6 +50,23 @@ QIcon dotIcon(const QWidget *widget)
     return picture;
 }
 
+/// Counts a call in which the button may die.
+class RunningCall
+{
+public:
+    explicit RunningCall(std::shared_ptr<WorkSpaceRibbonData> data)
+        : data_(std::move(data))
+    {
+        ++data_->runningCalls;
+    }
+    ~RunningCall() { --data_->runningCalls; }
+    RunningCall(const RunningCall &) = delete;
+    RunningCall &operator=(const RunningCall &) = delete;
+
+private:
+    std::shared_ptr<WorkSpaceRibbonData> data_;
+};
+
 } // namespace
 
 WorkSpaceWidgetRibbon::WorkSpaceWidgetRibbon(QWidget *parent)
@@ -73,7 +90,16 @@ WorkSpaceWidgetRibbon::WorkSpaceWidgetRibbon(QWidget *parent)
     showCurrentName();
 }
 
-WorkSpaceWidgetRibbon::~WorkSpaceWidgetRibbon() = default;
+WorkSpaceWidgetRibbon::~WorkSpaceWidgetRibbon()
+{
+    // The menu comes back to its own code when the call of its entry is over.
+    QMenu *const menu = this->menu();
+    if (menu && data_->runningCalls > 0) {
+        menu->hide();
+        menu->setParent(nullptr);
+        menu->deleteLater();
+    }
+}
 
 void WorkSpaceWidgetRibbon::createMenuButton()
 {
@@ -191,6 +217,7 @@ void WorkSpaceWidgetRibbon::slotWorkSpaceMenuItemSelected(QAction *action)
 void WorkSpaceWidgetRibbon::chooseTheme(const QString &key)
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     ZelStyleSheets::updateColorThemeSettings(key);
     // Runs posted events.
     ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(key, QString(), false);
@@ -201,6 +228,7 @@ void WorkSpaceWidgetRibbon::chooseTheme(const QString &key)
 void WorkSpaceWidgetRibbon::chooseWorkSpace(const QString &id)
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     if (id == data_->currentId && !ZelMessageBox::noGui() && !confirmRevert(data_->list.nameOf(id)))
         return;
     if (!self)
@@ -233,6 +261,7 @@ void WorkSpaceWidgetRibbon::slotOverwriteWorkSpace()
     if (!data_->list.contains(id))
         return;
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     const auto answer =
         ZelMessageBox::question(window(), tr("Apply Workspace Changes"),
                                 tr("Do you want to update '%1' to use the current interface "
@@ -248,6 +277,7 @@ void WorkSpaceWidgetRibbon::slotOverwriteWorkSpace()
 void WorkSpaceWidgetRibbon::slotAddWorkSpace()
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     const QString name =
         askForName(tr("Add Workspace"), WorkSpaceNames::proposedName(data_->list.names()));
     if (!self || name.isNull())
@@ -265,6 +295,7 @@ void WorkSpaceWidgetRibbon::slotDuplicateWorkSpace()
     if (!data_->list.contains(original))
         return;
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     const QString proposal =
         WorkSpaceNames::importedName(data_->list.nameOf(original), data_->list.names());
     const QString name = askForName(tr("Duplicate Workspace"), proposal);
@@ -289,6 +320,7 @@ QString WorkSpaceWidgetRibbon::askForName(const QString &title, const QString &p
 void WorkSpaceWidgetRibbon::slotExportWorkSpace()
 {
     const QString id = data_->currentId;
+    const RunningCall call(data_);
     if (data_->list.contains(id))
         WorkSpaceFiles::exportWorkSpaces(window(),
                                          {{id, data_->list.nameOf(id), data_->list.data(id)}});
@@ -297,6 +329,7 @@ void WorkSpaceWidgetRibbon::slotExportWorkSpace()
 void WorkSpaceWidgetRibbon::slotRunMaintainDlg()
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
+    const RunningCall call(data_);
     const QByteArray before = data_->list.data(data_->currentId);
     const QPointer<WorkSpaceMaintainDialog> dialog = new WorkSpaceMaintainDialog(data_, window());
     dialog->exec();
