@@ -1,18 +1,18 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelStoredValue.h"
-#include "ZelToolBar.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelTextIconTabWidget.h"
-#include "workspace/WorkSpaceRibbonRules.h"
+#include "workspace/WorkSpaceDockPlacer.h"
 
-#include <QAction>
 #include <QDebug>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +38,14 @@ QStringList pageNames(const QTabWidget *tabs)
     return names;
 }
 
+/// The order of children changes whenever one of them becomes a window.
+template <typename Dock, typename Name>
+void sortByName(QList<Dock *> &docks, Name name)
+{
+    std::stable_sort(docks.begin(), docks.end(),
+                     [&](Dock *a, Dock *b) { return name(a) < name(b); });
+}
+
 } // namespace
 
 WorkSpaceInformation::WorkSpaceInformation(QWidget *libraryWindow, QWidget *projectWindow)
@@ -55,17 +63,12 @@ bool WorkSpaceInformation::hasWindows() const
     return library_ && project_ && window_;
 }
 
-QToolBar *WorkSpaceInformation::ribbon() const
-{
-    // The button of the workspaces bears this name too.
-    return window_->findChild<QToolBar *>(QStringLiteral("Ribbon"));
-}
-
 QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
 {
     QList<ZelDockWidgetFromTab *> docks = library_->getChildren();
     if (project_ != library_)
         docks += project_->getChildren();
+    sortByName(docks, [](ZelDockWidget *dock) { return dock->contentsWidget()->objectName(); });
     return docks;
 }
 
@@ -105,7 +108,7 @@ void WorkSpaceInformation::captureTornOut()
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
         record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
-                                                     : dock->geometry());
+                                                     : WorkSpaceDockPlacer::placeOf(window_, dock));
         record_.tornOutScreens.append(screenIndex(dock));
     }
 }
@@ -130,20 +133,6 @@ void WorkSpaceInformation::captureWindow()
     record_.maximized = window_->isMaximized();
 }
 
-void WorkSpaceInformation::captureRibbon()
-{
-    const QToolBar *bar = ribbon();
-    if (!bar)
-        return;
-    for (const QAction *action : bar->actions()) {
-        const QString name = action->objectName();
-        if (!WorkSpaceRibbonRules::isRibbonAction(name))
-            continue;
-        QStringList &ids = action->isVisible() ? record_.visibleRibbonIds : record_.hiddenRibbonIds;
-        ids.append(WorkSpaceRibbonRules::idOf(name));
-    }
-}
-
 void WorkSpaceInformation::captureNestedTabs()
 {
     for (const QTabWidget *tabs : nestedTabWidgets()) {
@@ -157,25 +146,16 @@ void WorkSpaceInformation::captureNestedTabs()
     }
 }
 
-void WorkSpaceInformation::captureToolBar()
-{
-    const auto *bar = window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar"));
-    if (!bar)
-        return;
-    record_.toolBarIconSize = bar->iconSize();
-    record_.toolBarVisible = !bar->isHidden();
-    record_.toolButtonStyle = qint16(bar->toolButtonStyle());
-    record_.toolBarMode = bar->currentIconSizeMode();
-}
-
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
-    for (ZelDockWidget *dock : window_->findChildren<ZelDockWidget *>()) {
+    QList<ZelDockWidget *> docks = window_->findChildren<ZelDockWidget *>();
+    sortByName(docks, [](ZelDockWidget *dock) { return dock->objectName(); });
+    for (ZelDockWidget *dock : std::as_const(docks)) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;
         record_.dockNames.append(dock->objectName());
-        record_.dockRects.append(dock->geometry());
+        record_.dockRects.append(WorkSpaceDockPlacer::placeOf(window_, dock));
         record_.dockScreens.append(screenIndex(dock));
     }
     for (const QScreen *screen : QGuiApplication::screens())
