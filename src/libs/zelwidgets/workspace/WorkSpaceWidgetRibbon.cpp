@@ -316,7 +316,7 @@ QString WorkSpaceWidgetRibbon::askForName(const QString &title, const QString &p
     const QPointer<WorkSpaceTextDialog> dialog =
         new WorkSpaceTextDialog(title, tr("Workspace Name:"), proposal, this);
     const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    const QString name = isAccepted ? dialog->text() : QString();
+    const QString name = isAccepted ? dialog->text().trimmed() : QString();
     delete dialog.data();
     return name;
 }
