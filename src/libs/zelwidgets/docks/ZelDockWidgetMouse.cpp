@@ -6,6 +6,7 @@
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelPaneFocus.h"
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -124,14 +125,22 @@ void ZelDockWidget::endResize()
 
 void ZelDockWidget::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (!hitTest(event->globalPos())) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (!byKey && !hitTest(event->globalPos())) {
         QDockWidget::contextMenuEvent(event);
         return;
     }
     QMenu *menu = ZelDockMenu::create(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->popup(event->globalPos());
+    menu->popup(byKey ? d_->title->mapToGlobal(d_->title->rect().bottomLeft())
+                      : event->globalPos());
     event->accept();
+}
+
+void ZelDockWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (!ZelPaneFocus::openMenuByKey(event))
+        QDockWidget::keyPressEvent(event);
 }
 
 void ZelDockWidget::leaveEvent(QEvent *event)
