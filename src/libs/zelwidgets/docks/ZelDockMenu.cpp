@@ -148,8 +148,7 @@ QMenu *create(ZelDockWidget *dock, bool globalPositions)
             run([side](ZelDockWidget *dock) { dockAt(dock, side); });
         });
         action->setEnabled(window && ZelDocking::isEnabled() && dock->isAreaAllowed(side) &&
-                           (dock->isFloating() ||
-                            window->dockWidgetArea(dock) != side));
+                           (dock->isFloating() || window->dockWidgetArea(dock) != side));
     }
     addScreens(menu, dock, run, dock->isFloating() ? widgetScreen(dock) : nullptr,
                dock->isFloating() || canFloat(dock), globalPositions);
@@ -176,9 +175,9 @@ void addTabEntries(QMenu *menu, ZelTextIconTabWidget *tabs, QWidget *page, bool 
     menu->addAction(tr("Tear Out"), tabs, [run] { run([](ZelDockWidget *) {}); })
         ->setEnabled(canLeave);
     for (const Qt::DockWidgetArea side : sides) {
-        menu->addAction(sideText(side), tabs, [run, side] {
-            run([side](ZelDockWidget *dock) { dockAt(dock, side); });
-        })->setEnabled(canLeave);
+        menu->addAction(sideText(side), tabs,
+                        [run, side] { run([side](ZelDockWidget *dock) { dockAt(dock, side); }); })
+            ->setEnabled(canLeave);
     }
     addScreens(menu, tabs, run, nullptr, canLeave, globalPositions);
     const int leftwards = tabs->isRightToLeft() ? 1 : -1;

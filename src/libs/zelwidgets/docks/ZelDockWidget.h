@@ -101,6 +101,7 @@ private:
     void prepareUndockOrHide();
     void floatInMiddle();
     void tellRelease();
+    void focusContents();
     void endResize();
     void rememberSize();
     void followScreen();

@@ -34,9 +34,19 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
     case QEvent::MouseButtonRelease:
         handleMouseReleaseEvent(static_cast<QMouseEvent *>(event));
         break;
+    case QEvent::Enter:
+        // No move follows where the pointer comes back to the point that it had left.
+        if (isFloating() && QGuiApplication::mouseButtons() == Qt::NoButton)
+            adjustCursor(
+                resizeStateAt(static_cast<QEnterEvent *>(event)->globalPosition().toPoint()));
+        break;
     case QEvent::Leave:
         if (object == d_->contents)
             endResize();
+        break;
+    case QEvent::WindowActivate:
+        if (object == this)
+            focusContents();
         break;
     case QEvent::MouseButtonDblClick:
         break;
@@ -45,6 +55,15 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
         break;
     }
     return false;
+}
+
+/// A floating dock that becomes active for the first time; the first in the order of the Tab key
+/// is the button that closes it.
+void ZelDockWidget::focusContents()
+{
+    QWidget *target = isFloating() && !focusWidget() ? ZelPaneFocus::target(this) : nullptr;
+    if (target)
+        target->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 int ZelDockWidget::resizeStateAt(const QPoint &globalPoint) const
@@ -56,7 +75,9 @@ void ZelDockWidget::adjustCursor(int resizeState)
 {
     const QCursor cursor =
         resizeState == 0 ? d_->savedCursor : QCursor(ZelDockGeometry::cursorFor(resizeState));
-    for (QWidget *widget : {d_->holder.data(), static_cast<QWidget *>(d_->title.data())}) {
+    // The outermost pixels, the frame, are the dock's own.
+    for (QWidget *widget : {d_->holder.data(), static_cast<QWidget *>(d_->title.data()),
+                            static_cast<QWidget *>(this)}) {
         if (widget && widget->cursor().shape() != cursor.shape())
             widget->setCursor(cursor);
     }
