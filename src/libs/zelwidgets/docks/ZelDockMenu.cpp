@@ -72,12 +72,12 @@ void moveToScreen(ZelDockWidget *dock, QScreen *screen)
 /// A window of its own, or none any more, loses the focus that the dock had.
 Runner runnerFor(ZelDockWidget *dock)
 {
-    return [dock](const Deed &deed) {
+    // Once the menu is open, it has the focus itself.
+    return [dock, hadFocus = ZelPaneFocus::isIn(dock)](const Deed &deed) {
         const QPointer<ZelDockWidget> guard(dock);
-        const bool hadFocus = ZelPaneFocus::isIn(dock);
         deed(dock);
         if (guard && hadFocus)
-            ZelPaneFocus::enter(guard);
+            ZelPaneFocus::enterAfterMenus(guard);
     };
 }
 
@@ -91,7 +91,7 @@ Runner runnerFor(ZelTextIconTabWidget *tabs, QWidget *page)
             return;
         deed(dock);
         if (dock)
-            ZelPaneFocus::enter(dock);
+            ZelPaneFocus::enterAfterMenus(dock);
     };
 }
 
@@ -155,15 +155,28 @@ QMenu *create(ZelDockWidget *dock, bool globalPositions)
     addReset(menu, dock, globalPositions);
     if (auto *tornOut = qobject_cast<ZelDockWidgetFromTab *>(dock)) {
         menu->addSeparator();
-        menu->addAction(tr("Put Back"), tornOut, [tornOut] {
+        const bool hadFocus = ZelPaneFocus::isIn(tornOut);
+        menu->addAction(tr("Put Back"), tornOut, [tornOut, hadFocus] {
             const QPointer<QWidget> page(tornOut->page());
-            const bool hadFocus = ZelPaneFocus::isIn(tornOut);
             tornOut->forceRestoreInView();
             if (page && hadFocus)
-                ZelPaneFocus::enter(page);
+                ZelPaneFocus::enterAfterMenus(page);
         });
     }
     return menu;
+}
+
+void open(ZelDockWidget *dock, const QPoint &globalPoint)
+{
+    QMenu *menu = create(dock);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(globalPoint);
+}
+
+void openBelowTitle(ZelDockWidget *dock)
+{
+    const QWidget *title = dock->zelTitleWidget();
+    open(dock, title->mapToGlobal(title->rect().bottomLeft()));
 }
 
 void addTabEntries(QMenu *menu, ZelTextIconTabWidget *tabs, QWidget *page, bool globalPositions)

@@ -3,6 +3,7 @@
 #include "docks/ZelDocking.h"
 
 class QMenu;
+class QPoint;
 class QWidget;
 class ZelDockWidget;
 class ZelTextIconTabWidget;
@@ -15,6 +16,10 @@ namespace ZelDockMenu {
 /// another screen, come back to the main window, put a torn-out page back. A dock that had the
 /// focus keeps it.
 QMenu *create(ZelDockWidget *dock, bool globalPositions = ZelDocking::hasGlobalPositions());
+
+/// Opens the menu at the point, in global coordinates, or below the title bar.
+void open(ZelDockWidget *dock, const QPoint &globalPoint);
+void openBelowTitle(ZelDockWidget *dock);
 
 /// Adds to the context menu of a tab bar what can be done to the tab of the page: tear it out,
 /// dock it at a side, take it to another screen, move it among the tabs.

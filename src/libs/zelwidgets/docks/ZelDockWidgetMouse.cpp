@@ -10,7 +10,6 @@
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QScreen>
 
@@ -146,15 +145,17 @@ void ZelDockWidget::endResize()
 
 void ZelDockWidget::contextMenuEvent(QContextMenuEvent *event)
 {
+    // What comes from the contents by key had its menu there: the event doesn't tell, as it loses
+    // its mark of acceptance on the way.
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    if (!byKey && !hitTest(event->globalPos())) {
+    if (byKey ? ZelPaneFocus::isIn(d_->holder) : !hitTest(event->globalPos())) {
         QDockWidget::contextMenuEvent(event);
         return;
     }
-    QMenu *menu = ZelDockMenu::create(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->popup(byKey ? d_->title->mapToGlobal(d_->title->rect().bottomLeft())
-                      : event->globalPos());
+    if (byKey)
+        ZelDockMenu::openBelowTitle(this);
+    else
+        ZelDockMenu::open(this, event->globalPos());
     event->accept();
 }
 

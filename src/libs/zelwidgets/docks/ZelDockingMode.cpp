@@ -1,14 +1,18 @@
 #include "ZelDockingMode.h"
 
 #include "ZelArrowKeys.h"
+#include "docks/ZelDockMenu.h"
 #include "docks/ZelDockPreview.h"
 #include "docks/ZelDockTargets.h"
+#include "docks/ZelDockWidget.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelPaneFocus.h"
+#include "docks/ZelTextIconTabWidget.h"
 #include "shortcuts/ZelAction.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QMainWindow>
@@ -135,6 +139,9 @@ bool ZelDockingMode::eventFilter(QObject *object, QEvent *event)
         return false;
     }
     switch (event->type()) {
+    case QEvent::ContextMenu:
+        openMenu();
+        return true;
     case QEvent::ShortcutOverride:
         event->accept();
         return true;
@@ -158,6 +165,8 @@ void ZelDockingMode::press(QKeyEvent *event)
         cancel();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         accept();
+    else if (event->key() == Qt::Key_F10 && modifiers == Qt::ShiftModifier)
+        openMenu();
     else if (step.isNull())
         return;
     else if (modifiers == Qt::NoModifier)
@@ -166,6 +175,20 @@ void ZelDockingMode::press(QKeyEvent *event)
         moveWindow(step * pixelStep);
     else if (modifiers == Qt::ShiftModifier)
         sizeWindow(step * pixelStep);
+}
+
+void ZelDockingMode::openMenu()
+{
+    const QPointer<ZelDockWidget> dock(qobject_cast<ZelDockWidget *>(d_->subject.dock()));
+    const QPointer<ZelTextIconTabWidget> tabs(d_->subject.dock() ? nullptr : d_->subject.tabs());
+    cancel();
+    if (dock) {
+        ZelDockMenu::openBelowTitle(dock);
+    } else if (tabs) {
+        QWidget *bar = tabs->decoratedTabBar();
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), bar->mapToGlobal(QPoint()));
+        QCoreApplication::sendEvent(bar, &menu);
+    }
 }
 
 void ZelDockingMode::choose(const QPoint &step)

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -63,10 +64,22 @@ bool enter(QWidget *pane, const Filter &filter)
     return true;
 }
 
+void enterAfterMenus(QWidget *pane)
+{
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    if (!menu) {
+        enter(pane);
+        return;
+    }
+    QObject::connect(
+        menu, &QMenu::aboutToHide, pane, [pane] { enterAfterMenus(pane); },
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
 bool isIn(const QWidget *pane)
 {
     const QWidget *focus = QApplication::focusWidget();
-    return focus && (focus == pane || pane->isAncestorOf(focus));
+    return pane && focus && (focus == pane || pane->isAncestorOf(focus));
 }
 
 bool openMenuByKey(QKeyEvent *event)

@@ -18,7 +18,11 @@ QWidget *target(QWidget *pane, const Filter &filter = {});
 /// Gives the focus to the target and activates its window; false if there is none.
 bool enter(QWidget *pane, const Filter &filter = {});
 
-/// True if the widget or one inside it has the focus.
+/// Enters the pane once no menu is open any more: Qt doesn't notice while one is that another
+/// window becomes the active one.
+void enterAfterMenus(QWidget *pane);
+
+/// True if the pane, or a widget inside it, has the focus; false without a pane.
 bool isIn(const QWidget *pane);
 
 /// Opens the context menu of the widget with the focus if the event is Shift+F10, which not every
