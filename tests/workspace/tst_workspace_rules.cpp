@@ -162,12 +162,12 @@ void TestWorkspaceRules::findsTargets()
     const QString c = QStringLiteral("c");
     auto targets = WorkSpaceGeometry::targetsOf(record, 2);
     QCOMPARE(targets.size(), 4);
-    QVERIFY(targets[0] == (WorkSpaceGeometry::Target{a, rect, second, 1}));
+    QVERIFY(targets[0] == (WorkSpaceGeometry::Target{a, rect, second, 1, true}));
     QVERIFY(targets[1].oldScreen.isNull() && targets[3].oldScreen.isNull());
     record.tornOutScreens.removeLast();
     targets = WorkSpaceGeometry::targetsOf(record, 1);
     QCOMPARE(targets.size(), 2);
-    QVERIFY(targets[0] == (WorkSpaceGeometry::Target{c, rect, second, 0}));
+    QVERIFY(targets[0] == (WorkSpaceGeometry::Target{c, rect, second, 0, false}));
     QVERIFY(WorkSpaceGeometry::placed(targets[0], {}).isEmpty());
 }
 

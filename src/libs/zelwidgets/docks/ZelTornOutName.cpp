@@ -1,10 +1,9 @@
 #include "ZelTornOutName.h"
 
 #include "ZelStoredValue.h"
+#include "workspace/WorkSpaceNames.h"
 
 #include <QWidget>
-
-#include <algorithm>
 
 namespace ZelTornOutName {
 namespace {
@@ -13,11 +12,7 @@ QString stem(const QWidget *page)
 {
     if (!page)
         return QStringLiteral("ErrorInName");
-    QString name = page->objectName();
-    std::replace_if(
-        name.begin(), name.end(),
-        [](QChar c) { return !c.isLetterOrNumber() && c != u'_' && c != u'-'; }, QChar(u'_'));
-    return QLatin1String("ZelDW") + name;
+    return QLatin1String("ZelDW") + WorkSpaceNames::filtered(page->objectName());
 }
 
 } // namespace

@@ -27,7 +27,7 @@ QRect movedInside(QRect rect, const QRect &area)
 WorkSpaceGeometry::Target targetOf(const WorkSpaceRecord &record, const QString &dock,
                                    const QRect &rect, int oldIndex, int screenCount)
 {
-    WorkSpaceGeometry::Target target{dock, rect, QRect(), 0};
+    WorkSpaceGeometry::Target target{dock, rect, QRect(), 0, false};
     if (oldIndex < 0 || oldIndex >= record.screens.size())
         return target;
     target.oldScreen = record.screens[oldIndex];
@@ -43,14 +43,16 @@ QList<WorkSpaceGeometry::Target> WorkSpaceGeometry::targetsOf(const WorkSpaceRec
 {
     QList<Target> targets;
     const auto add = [&](const QStringList &names, const QList<QRect> &rects,
-                         const QList<qint16> &screens) {
-        for (qsizetype i = 0; i < names.size(); ++i)
+                         const QList<qint16> &screens, bool areTornOut) {
+        for (qsizetype i = 0; i < names.size(); ++i) {
             targets.append(targetOf(record, names[i], rects[i], screens[i], screenCount));
+            targets.last().isTornOut = areTornOut;
+        }
     };
     if (record.hasMatchingTabScreens())
-        add(record.tornOutNames, record.tornOutRects, record.tornOutScreens);
+        add(record.tornOutNames, record.tornOutRects, record.tornOutScreens, true);
     if (record.hasMatchingDocks())
-        add(record.dockNames, record.dockRects, record.dockScreens);
+        add(record.dockNames, record.dockRects, record.dockScreens, false);
     return targets;
 }
 

@@ -25,6 +25,8 @@ struct Target
     QRect oldScreen;
     /// The index of the screen that it goes to; the first one if its own is gone.
     int screen = 0;
+    /// True if dock is the name of a torn-out page.
+    bool isTornOut = false;
 
     bool operator==(const Target &) const = default;
 };

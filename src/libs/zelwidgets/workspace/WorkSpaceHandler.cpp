@@ -1,0 +1,144 @@
+#include "WorkSpaceHandler.h"
+
+#include "ZelStoredValue.h"
+#include "docks/ZelDocking.h"
+#include "workspace/WorkSpaceDefaults.h"
+#include "workspace/WorkSpaceInformation.h"
+#include "workspace/WorkSpaceNames.h"
+#include "workspace/WorkSpaceRibbonRules.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char areasProperty[] = "zelAllowedAreas";
+bool isDevMode = false;
+
+QString startupKey()
+{
+    return QStringLiteral("DoingStartupRestore");
+}
+
+void markStartupRestore(bool running)
+{
+    ZelSettings(QStringLiteral("ui")).setValue(startupKey(), running);
+    ZelSettings::save();
+}
+
+QList<DefaultWorkSpaceInfo> readDefaultWorkSpaces()
+{
+    QList<DefaultWorkSpaceInfo> all = WorkSpaceDefaults().getCurrentDefaults().values();
+    std::sort(all.begin(), all.end(),
+              [](const DefaultWorkSpaceInfo &a, const DefaultWorkSpaceInfo &b) {
+                  return WorkSpaceNames::isIdLess(a.id, b.id);
+              });
+    return all;
+}
+
+} // namespace
+
+QByteArray WorkSpaceHandler::getWorkSpaceData(QWidget *libraryWindow, QWidget *projectWindow)
+{
+    WorkSpaceInformation information(libraryWindow, projectWindow);
+    information.getDataFromCurrentState();
+    return information.data();
+}
+
+bool WorkSpaceHandler::restoreWorkSpace(const QByteArray &data, QWidget *libraryWindow,
+                                        QWidget *projectWindow, bool startup)
+{
+    if (isInWorkspaceRestore()) {
+        qWarning() << "A workspace is being restored already";
+        return false;
+    }
+    if (startup)
+        markStartupRestore(true);
+    bool restored = false;
+    {
+        const ZelDocking::RestoreScope scope;
+        restored = WorkSpaceInformation(libraryWindow, projectWindow).restoreState(data);
+    }
+    if (startup)
+        markStartupRestore(false);
+    return restored;
+}
+
+bool WorkSpaceHandler::isInWorkspaceRestore()
+{
+    return ZelDocking::isInRestore();
+}
+
+bool WorkSpaceHandler::mayHaveStartupRestoreIssue()
+{
+    return storedValue(ZelSettings(QStringLiteral("ui")), startupKey(), false);
+}
+
+void WorkSpaceHandler::clearStartupIssueFlag()
+{
+    ZelSettings(QStringLiteral("ui")).setValue(startupKey(), false);
+}
+
+QList<DefaultWorkSpaceInfo> WorkSpaceHandler::getDefaultWorkSpaces()
+{
+    static const QList<DefaultWorkSpaceInfo> workSpaces = readDefaultWorkSpaces();
+    return workSpaces;
+}
+
+void WorkSpaceHandler::disableDockWidgets(QMainWindow *window)
+{
+    if (!window)
+        return;
+    for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {
+        if (dock->property(areasProperty).isValid())
+            continue;
+        dock->setFloating(true);
+        dock->setProperty(areasProperty, QVariant::fromValue(dock->allowedAreas().toInt()));
+        dock->setAllowedAreas(Qt::NoDockWidgetArea);
+    }
+}
+
+void WorkSpaceHandler::enableDockWidgets(QMainWindow *window)
+{
+    if (!window)
+        return;
+    for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {
+        const QVariant areas = dock->property(areasProperty);
+        if (!areas.isValid())
+            continue;
+        dock->setAllowedAreas(Qt::DockWidgetAreas::fromInt(areas.toInt()));
+        dock->setProperty(areasProperty, QVariant());
+    }
+}
+
+void WorkSpaceHandler::fixSeparators(QToolBar *bar)
+{
+    if (!bar)
+        return;
+    const QList<QAction *> actions = bar->actions();
+    QList<WorkSpaceRibbonRules::BarItem> items;
+    for (const QAction *action : actions)
+        items.append({action->isSeparator(), action->isVisible()});
+    const QList<bool> visible = WorkSpaceRibbonRules::visibleItems(items);
+    for (int i = 0; i < int(actions.size()); ++i) {
+        if (actions[i]->isSeparator())
+            actions[i]->setVisible(visible[i]);
+    }
+}
+
+void WorkSpaceHandler::setDevWorkSpaceMode(bool on)
+{
+    isDevMode = on;
+}
+
+bool WorkSpaceHandler::workSpaceDevMode()
+{
+    return isDevMode;
+}
+
+void WorkSpaceHandler::writeWorkSpaceData(const QByteArray &, const QString &) {}

@@ -1,0 +1,194 @@
+#include "WorkSpaceInformation.h"
+
+#include "ZelStoredValue.h"
+#include "ZelToolBar.h"
+#include "ZelWindowPlacement.h"
+#include "docks/ZelDockWidgetFromTab.h"
+#include "docks/ZelDocking.h"
+#include "docks/ZelTextIconTabWidget.h"
+#include "workspace/WorkSpaceRibbonRules.h"
+
+#include <QAction>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QMainWindow>
+#include <QScreen>
+
+namespace {
+
+/// Reads the switch, and writes it so that it can be found in the settings.
+bool readSwitch(const QString &key, bool fallback)
+{
+    ZelSettings settings(QStringLiteral("WorkSpaces"));
+    const bool value = storedValue(settings, key, fallback);
+    settings.setValue(key, value);
+    return value;
+}
+
+qint16 screenIndex(QWidget *widget)
+{
+    return qint16(QGuiApplication::screens().indexOf(widgetScreen(widget)));
+}
+
+QStringList pageNames(const QTabWidget *tabs)
+{
+    QStringList names;
+    for (int i = 0; i < tabs->count(); ++i)
+        names.append(tabs->widget(i)->objectName());
+    return names;
+}
+
+} // namespace
+
+WorkSpaceInformation::WorkSpaceInformation(QWidget *libraryWindow, QWidget *projectWindow)
+    : library_(qobject_cast<ZelTextIconTabWidget *>(libraryWindow))
+    , project_(qobject_cast<ZelTextIconTabWidget *>(projectWindow))
+    , window_(ZelDocking::mainWindowOf(library_))
+    , isDebugging_(readSwitch(QStringLiteral("debugEnabledOnWS"), false))
+    , expectsStudioHidden_(readSwitch(QStringLiteral("debugExpectStudioHidden"), true))
+{
+    readSwitch(QStringLiteral("debugExpectToolbarVisible"), true);
+}
+
+bool WorkSpaceInformation::hasWindows() const
+{
+    return library_ && project_ && window_;
+}
+
+QToolBar *WorkSpaceInformation::ribbon() const
+{
+    // The button of the workspaces bears this name too.
+    return window_->findChild<QToolBar *>(QStringLiteral("Ribbon"));
+}
+
+QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
+{
+    QList<ZelDockWidgetFromTab *> docks = library_->getChildren();
+    if (project_ != library_)
+        docks += project_->getChildren();
+    return docks;
+}
+
+QList<QTabWidget *> WorkSpaceInformation::nestedTabWidgets() const
+{
+    QList<QTabWidget *> all = library_->findChildren<QTabWidget *>();
+    if (project_ != library_)
+        all += project_->findChildren<QTabWidget *>();
+    for (const ZelDockWidgetFromTab *dock : tornOutDocks()) {
+        if (auto *page = qobject_cast<QTabWidget *>(dock->page()))
+            all.append(page);
+        if (dock->page())
+            all += dock->page()->findChildren<QTabWidget *>();
+    }
+    return all;
+}
+
+void WorkSpaceInformation::getDataFromCurrentState()
+{
+    if (!hasWindows())
+        return;
+    const char *const function = "WorkSpaceInformation::getDataFromCurrentState";
+    checkStudio("at store 1", function, __LINE__);
+    captureTornOut();
+    captureTabs();
+    captureWindow();
+    captureRibbon();
+    captureNestedTabs();
+    captureToolBar();
+    captureDocks();
+    checkStudio("at store 2", function, __LINE__);
+}
+
+void WorkSpaceInformation::captureTornOut()
+{
+    for (ZelDockWidgetFromTab *dock : tornOutDocks()) {
+        dock->assignStableName();
+        record_.tornOutNames.append(dock->contentsWidget()->objectName());
+        record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
+                                                     : dock->geometry());
+        record_.tornOutScreens.append(screenIndex(dock));
+    }
+}
+
+void WorkSpaceInformation::captureTabs()
+{
+    record_.libraryTabOrder = pageNames(library_);
+    record_.projectTabOrder = pageNames(project_);
+    record_.libraryTabIndex = library_->currentIndex();
+    record_.projectTabIndex = project_->currentIndex();
+}
+
+void WorkSpaceInformation::captureWindow()
+{
+    record_.mainWindowState = window_->saveState(0);
+    if (const QScreen *screen = widgetScreen(window_)) {
+        record_.screenGeometry = screen->geometry();
+        record_.screenAvailable = screen->availableGeometry();
+    }
+    record_.devicePixelRatio = window_->devicePixelRatioF();
+    record_.mainWindowGeometry = window_->geometry();
+    record_.maximized = window_->isMaximized();
+}
+
+void WorkSpaceInformation::captureRibbon()
+{
+    const QToolBar *bar = ribbon();
+    if (!bar)
+        return;
+    for (const QAction *action : bar->actions()) {
+        const QString name = action->objectName();
+        if (!WorkSpaceRibbonRules::isRibbonAction(name))
+            continue;
+        QStringList &ids = action->isVisible() ? record_.visibleRibbonIds : record_.hiddenRibbonIds;
+        ids.append(WorkSpaceRibbonRules::idOf(name));
+    }
+}
+
+void WorkSpaceInformation::captureNestedTabs()
+{
+    for (const QTabWidget *tabs : nestedTabWidgets()) {
+        const QString name = tabs->objectName();
+        if (name.isEmpty())
+            continue;
+        record_.tabWidgetNames.append(name);
+        record_.tabWidgetIndices.append(tabs->currentIndex());
+        if (name == QLatin1String("ScenePageSubTab"))
+            record_.sceneSubTabText = tabs->tabText(tabs->currentIndex());
+    }
+}
+
+void WorkSpaceInformation::captureToolBar()
+{
+    const auto *bar = window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar"));
+    if (!bar)
+        return;
+    record_.toolBarIconSize = bar->iconSize();
+    record_.toolBarVisible = !bar->isHidden();
+    record_.toolButtonStyle = qint16(bar->toolButtonStyle());
+    record_.toolBarMode = bar->currentIconSizeMode();
+}
+
+void WorkSpaceInformation::captureDocks()
+{
+    record_.enableDocking = ZelDocking::isEnabled();
+    for (ZelDockWidget *dock : window_->findChildren<ZelDockWidget *>()) {
+        if (!dock->isVisible() || dock->objectName().isEmpty())
+            continue;
+        record_.dockNames.append(dock->objectName());
+        record_.dockRects.append(dock->geometry());
+        record_.dockScreens.append(screenIndex(dock));
+    }
+    for (const QScreen *screen : QGuiApplication::screens())
+        record_.screens.append(screen->geometry());
+}
+
+/// An aid to find what shows a panel that no workspace was to show.
+void WorkSpaceInformation::checkStudio(const char *point, const char *function, int line) const
+{
+    if (!isDebugging_ || !expectsStudioHidden_ || window_->property("ClosingZelmora").toBool())
+        return;
+    const auto *studio = window_->findChild<QDockWidget *>(QStringLiteral("StudioDockWidget"));
+    if (studio && studio->isVisible())
+        qDebug() << "Studio was expected to be hidden:" << point << "- Called from " << function
+                 << "(line)" << line;
+}
