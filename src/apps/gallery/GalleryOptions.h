@@ -12,6 +12,8 @@ struct GalleryOptions
     QString theme;
     QString settingsFile;
     QString screenshotFolder;
+    /// Where the bundles of factory workspaces are to be written, for who builds the gallery.
+    QString bundleFolder;
     std::optional<double> scale;
     bool listPages = false;
 

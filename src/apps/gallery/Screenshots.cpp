@@ -4,6 +4,11 @@
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
 #include "PageCatalog.h"
+#include "desk/DeskWindow.h"
+#include "viewport/Viewport.h"
+
+#include <ZelWidgets/WorkSpaceHandler>
+#include <ZelWidgets/ZelTextIconTabWidget>
 
 #include <QApplication>
 #include <QDebug>
@@ -19,6 +24,7 @@ namespace {
 constexpr int pictureWidth = 1280;
 constexpr int leastHeight = 800;
 constexpr int mostHeight = 6000;
+constexpr QSize deskSize(1600, 1000);
 
 void settle()
 {
@@ -70,6 +76,36 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
             const QString name = pageCatalog()[i].id + u'-' + theme.toLower();
             const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
             if (!grabPage(window, i).save(file)) {
+                qCritical() << "Can't write the picture" << file;
+                return 1;
+            }
+            std::printf("%s\n", qPrintable(file));
+        }
+    }
+    return 0;
+}
+
+QImage grabDesk(DeskWindow *desk)
+{
+    settle();
+    desk->viewport()->takePicture();
+    settle();
+    return desk->grab().toImage();
+}
+
+int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
+                         const QStringList &themes)
+{
+    desk->resize(deskSize);
+    desk->show();
+    for (const QString &theme : themes) {
+        application->setTheme(theme);
+        for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
+            WorkSpaceHandler::restoreWorkSpace(workSpace.data, desk->library(), desk->project(),
+                                               false);
+            const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
+            const QString file = QDir(folder).filePath(name);
+            if (!grabDesk(desk).save(file)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }

@@ -14,9 +14,9 @@ constexpr float fadeStart = 4.5F;
 constexpr float fadeEnd = 8.8F;
 constexpr float gridWidth = 0.02F;
 constexpr float gridFade = 14.0F;
-/// Lifts a shadow off the floor that it lies on.
-constexpr float shadowLift = 1.0004F;
 constexpr int noObject = -1;
+/// Shadows lie on the floor, whose depth they can't be told from.
+constexpr int floorMark = -2;
 
 /// Light adds up linearly; squares and roots are near enough to what displays do.
 QVector3D linear(const QColor &color)
@@ -125,8 +125,8 @@ RenderJob::~RenderJob() = default;
 
 void RenderJob::addScene(const ViewScene &scene)
 {
-    surfaces_.push_back({Surface::Floor, noObject, linear(scene.studioInForce().floor)});
-    surfaces_.push_back({Surface::Shadow, noObject, surfaces_.front().color});
+    surfaces_.push_back({Surface::Floor, floorMark, linear(scene.studioInForce().floor)});
+    surfaces_.push_back({Surface::Shadow, floorMark, surfaces_.front().color});
     addMesh(scene.floorMesh(), 0);
     for (int i = 0; i < scene.objectCount(); ++i) {
         const ViewObject &object = scene.object(i);
@@ -292,7 +292,7 @@ void RenderJob::drawSpan(const Triangle &triangle, Band *band, int y, int from, 
 {
     const auto &[a, b, c] = triangle.corners;
     const Surface &surface = surfaces_[size_t(triangle.surface)];
-    const float lift = surface.kind == Surface::Shadow ? shadowLift : 1.0F;
+    const bool isShadow = surface.kind == Surface::Shadow;
     const QVector3D sky = skyAt(y);
     const float centerY = float(y) + 0.5F;
     // The weights of the corners change by the same step from pixel to pixel.
@@ -307,14 +307,14 @@ void RenderJob::drawSpan(const Triangle &triangle, Band *band, int y, int from, 
         const float weightC = (1 - partA - partB) * c.nearness;
         const float nearness = weightA + weightB + weightC;
         const size_t place = band->at(x, y);
-        if (nearness * lift <= band->nearness[place])
+        const bool isSeen =
+            isShadow ? band->objects[place] == floorMark : nearness > band->nearness[place];
+        if (!isSeen)
             continue;
         const QVector3D point =
             (a.point * weightA + b.point * weightB + c.point * weightC) / nearness;
-        if (surface.kind == Surface::Shadow && std::hypot(point.x(), point.z()) > fadeEnd)
-            continue;
         const QVector3D normal = a.normal * weightA + b.normal * weightB + c.normal * weightC;
-        band->nearness[place] = nearness * lift;
+        band->nearness[place] = std::max(nearness, band->nearness[place]);
         band->objects[place] = qint16(surface.object);
         band->pixels[place] = shade(surface, point, normal, sky);
     }
@@ -387,7 +387,8 @@ int RenderJob::objectAt(const QPoint &pixel) const
 {
     if (!image_.rect().contains(pixel))
         return noObject;
-    return objects_[size_t(pixel.y()) * size_t(image_.width()) + size_t(pixel.x())];
+    return std::max<int>(noObject,
+                         objects_[size_t(pixel.y()) * size_t(image_.width()) + size_t(pixel.x())]);
 }
 
 std::optional<QVector3D> RenderJob::pointAt(const QPoint &pixel) const
