@@ -6,6 +6,7 @@ const QLatin1String idsKey("ids");
 const QLatin1String namesKey("names");
 const QLatin1String factoryCountKey("DefaultWorkspacesCount");
 const QLatin1String isSetUpKey("isSetup");
+const QLatin1String lastUsedKey("LastUsedWorkspace");
 /// How many factory workspaces a store that is up to date has seen.
 constexpr int factoryCount = 10;
 
@@ -17,7 +18,8 @@ bool isReserved(const QString &id)
                                   factoryCountKey,
                                   isSetUpKey,
                                   QStringLiteral("hasUpdatedWorkspacesAfterZEL91"),
-                                  QStringLiteral("LastUsedWorkspace"),
+                                  lastUsedKey,
+                                  QStringLiteral("AutosavedArrangement"),
                                   QStringLiteral("LastUsedWSFolder"),
                                   QStringLiteral("debugEnabledOnWS"),
                                   QStringLiteral("debugExpectToolbarVisible"),
@@ -105,12 +107,18 @@ QString WorkSpaceList::setUpOnce(const QList<DefaultWorkSpaceInfo> &factory)
 
 QString WorkSpaceList::startId(const QList<DefaultWorkSpaceInfo> &factory) const
 {
-    QString id = settings_.value(QStringLiteral("LastUsedWorkspace")).toString();
+    QString id = settings_.value(lastUsedKey).toString();
     const ZelSettings misc(QStringLiteral("misc"));
     const bool isFirstTime = misc.value(QStringLiteral("first_time"), true).toBool();
     if (id.isEmpty() && isFirstTime && !factory.isEmpty())
         id = factory.first().id;
     return contains(id) ? id : QString();
+}
+
+void WorkSpaceList::setLastUsed(const QString &id)
+{
+    settings_.setValue(lastUsedKey, id);
+    ZelSettings::save();
 }
 
 void WorkSpaceList::append(const DefaultWorkSpaceInfo &workSpace)

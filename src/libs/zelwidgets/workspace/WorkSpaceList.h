@@ -40,6 +40,8 @@ public:
     /// The workspace to show at the start: the one used last or, for a new user, the first of the
     /// factory. Empty if the list doesn't have it.
     QString startId(const QList<DefaultWorkSpaceInfo> &factory) const;
+    /// What startId() is to give from now on; empty for none.
+    void setLastUsed(const QString &id);
 
 private:
     void append(const DefaultWorkSpaceInfo &workSpace);
