@@ -5,17 +5,29 @@
 #include "viewport/ViewScene.h"
 #include "viewport/Viewport.h"
 
+#include <ZelWidgets/WorkSpaceWidgetRibbon>
 #include <ZelWidgets/ZelCommandPalette>
 #include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelToolBar>
 
+namespace {
+
+constexpr int nameLength = 24;
+
+} // namespace
+
 DeskRibbon::DeskRibbon(DeskWindow *window)
     : QToolBar(tr("Ribbon"), window)
     , window_(window)
+    , workSpaces_(new WorkSpaceWidgetRibbon(this))
 {
     setObjectName(QStringLiteral("Ribbon"));
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setAccessibleName(tr("Ribbon"));
+    workSpaces_->setAccessibleName(tr("Workspace"));
+    workSpaces_->setMinimumWidth(fontMetrics().averageCharWidth() * nameLength);
+    addWidget(workSpaces_);
+    addSeparator();
     QAction *commands = add(QStringLiteral("Script"), QStringLiteral("menu"), tr("Commands"),
                             tr("Run any command by its name"));
     auto *palette = new ZelCommandPalette(window);

@@ -4,6 +4,7 @@
 #include <QToolBar>
 
 class DeskWindow;
+class WorkSpaceWidgetRibbon;
 
 /// The ribbon: workspaces, panels, studios and switches of the rendering. A workspace stores which
 /// of its buttons are visible, by their object names "Ribbon" and an id.
@@ -16,6 +17,8 @@ public:
 
     /// The button of an id; null if there is none.
     QAction *button(const QString &id) const;
+    /// The button of the workspaces.
+    WorkSpaceWidgetRibbon *workSpaces() const { return workSpaces_; }
     /// The switches of the rendering.
     QList<QAction *> renderSwitches() const;
     /// Adds the buttons that show and hide docks, and the tool bar.
@@ -28,4 +31,5 @@ private:
     void addRenderButtons();
 
     DeskWindow *window_;
+    WorkSpaceWidgetRibbon *workSpaces_;
 };

@@ -1,24 +1,26 @@
 #include "DeskStart.h"
 
 #include "DeskArrangement.h"
+#include "DeskRibbon.h"
 #include "DeskWindow.h"
 
 #include <ZelCore/ZelSettings>
 #include <ZelCore/ZelSettingsIO>
 #include <ZelWidgets/WorkSpaceDefaults>
 #include <ZelWidgets/WorkSpaceHandler>
+#include <ZelWidgets/WorkSpaceWidgetRibbon>
 #include <ZelWidgets/ZelTextIconTabWidget>
 
 #include <QDebug>
 
 namespace {
 
-/// Empty for a new user.
-QByteArray lastUsedWorkSpace()
+QByteArray currentWorkSpace(const DeskWindow *window)
 {
-    const ZelSettings stored(QStringLiteral("WorkSpaces"));
-    const QString id = stored.value(QStringLiteral("LastUsedWorkspace")).toString();
-    return id.isEmpty() ? QByteArray() : stored.value(id).toByteArray();
+    const QString id = window->ribbon()->workSpaces()->currentWorkSpace();
+    if (id.isEmpty())
+        return {};
+    return ZelSettings(QStringLiteral("WorkSpaces")).value(id).toByteArray();
 }
 
 } // namespace
@@ -32,7 +34,7 @@ void DeskStart::restore(DeskWindow *window)
         qWarning() << "The last start ended while it restored its workspace, which is left out now";
         WorkSpaceHandler::clearStartupIssueFlag();
     } else {
-        data = lastUsedWorkSpace();
+        data = currentWorkSpace(window);
     }
     const bool isRestored =
         !data.isEmpty() &&

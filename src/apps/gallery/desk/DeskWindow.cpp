@@ -16,6 +16,7 @@
 
 #include <ZelCore/ZelSettings>
 #include <ZelWidgets/WorkSpaceHandler>
+#include <ZelWidgets/WorkSpaceWidgetRibbon>
 #include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelDockWidgetFromTab>
 #include <ZelWidgets/ZelShortcutHandler>
@@ -25,6 +26,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMenu>
 
 namespace {
 
@@ -63,6 +65,7 @@ DeskWindow::DeskWindow(GalleryApplication *application)
     createToolBars();
     new DeskMenus(this, application_);
     connectScene();
+    connectWorkSpaces();
     restoreWindow();
     viewport_->setFocus();
     ZelShortcutHandler::instance()->restoreSettings();
@@ -179,6 +182,18 @@ void DeskWindow::connectScene()
     });
     connect(application_, &GalleryApplication::themeChanged, this, &DeskWindow::lookChanged);
     connect(application_, &GalleryApplication::fontSizeChanged, this, &DeskWindow::lookChanged);
+}
+
+void DeskWindow::connectWorkSpaces()
+{
+    WorkSpaceWidgetRibbon *workSpaces = ribbon_->workSpaces();
+    workSpaces->setLibraryWindow(library_);
+    workSpaces->setProjectWindow(project_);
+    connect(workSpaces, &WorkSpaceWidgetRibbon::changedTheme, application_,
+            &GalleryApplication::followTheme);
+    // Queued: the button restores the workspace for the same signal.
+    connect(workSpaces->menu(), &QMenu::triggered, this, &DeskWindow::followStoredSwitches,
+            Qt::QueuedConnection);
 }
 
 void DeskWindow::lookChanged()

@@ -62,6 +62,7 @@ private:
                            Qt::DockWidgetArea area);
     void createToolBars();
     void connectScene();
+    void connectWorkSpaces();
     void restoreWindow();
     void lookChanged();
     PageGroup *groupOf(int index) const;

@@ -220,7 +220,9 @@ ZelDockWidgetFromTab *ZelDragOutEventFilter::tearOut(int tab)
     dock->resize(pageSize);
     dock->move(tabs_->mapToGlobal(QPoint(0, 0)));
     page->show();
-    dock->show();
+    // A workspace shows it in its place.
+    if (!ZelDocking::isInRestore())
+        dock->show();
     tabs_->updateTabWidths();
     return dock;
 }

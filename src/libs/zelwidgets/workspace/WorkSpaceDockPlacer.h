@@ -8,7 +8,8 @@
 class QDockWidget;
 class QMainWindow;
 
-/// Holds docks at sizes until the layout of their window has settled.
+/// Brings docks to their places: holds them at their sizes until the layout of their window has
+/// settled.
 class WorkSpaceDockPlacer
 {
 public:
@@ -18,9 +19,12 @@ public:
     WorkSpaceDockPlacer(const WorkSpaceDockPlacer &) = delete;
     WorkSpaceDockPlacer &operator=(const WorkSpaceDockPlacer &) = delete;
 
-    /// Puts a floating dock there and fixes its size. One that is docked gets the width fixed at
-    /// the left and right of the window, the height elsewhere. Empty rectangles do nothing.
-    void place(QDockWidget *dock, const QRect &rect);
+    /// Empty rectangles are left out.
+    void add(QDockWidget *dock, const QRect &rect);
+    /// Puts floating docks there and fixes their sizes. Those that are docked get the width fixed
+    /// at the left and right of the window, the height elsewhere. False if all docks are as they
+    /// should be: then nothing was done.
+    bool hold();
     /// Gives the docks the freedom back that they had; what else has a fixed size loses it.
     void release();
 
@@ -28,9 +32,14 @@ private:
     struct Entry
     {
         QPointer<QDockWidget> dock;
+        QRect rect;
         QSize minimum;
     };
 
+    bool isInPlace(const Entry &entry) const;
+    void hold(Entry &entry);
+
     QPointer<QMainWindow> window_;
     QList<Entry> entries_;
+    bool holds_ = false;
 };

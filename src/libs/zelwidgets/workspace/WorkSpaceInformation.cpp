@@ -14,6 +14,8 @@
 #include <QMainWindow>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace {
 
 /// Reads the switch, and writes it so that it can be found in the settings.
@@ -36,6 +38,28 @@ QStringList pageNames(const QTabWidget *tabs)
     for (int i = 0; i < tabs->count(); ++i)
         names.append(tabs->widget(i)->objectName());
     return names;
+}
+
+/// Where the dock is. One behind others in a group of tabs lies where it can't be seen, in a size
+/// that it had some time: it is where those are.
+QRect placeOf(QMainWindow *window, QDockWidget *dock)
+{
+    const QRect place = dock->geometry();
+    if (dock->isFloating() || window->rect().intersects(place))
+        return place;
+    for (const QDockWidget *other : window->tabifiedDockWidgets(dock)) {
+        if (other->isVisible() && window->rect().intersects(other->geometry()))
+            return other->geometry();
+    }
+    return place;
+}
+
+/// The order of children changes whenever one of them becomes a window.
+template <typename Dock, typename Name>
+void sortByName(QList<Dock *> &docks, Name name)
+{
+    std::stable_sort(docks.begin(), docks.end(),
+                     [&](Dock *a, Dock *b) { return name(a) < name(b); });
 }
 
 } // namespace
@@ -66,6 +90,7 @@ QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
     QList<ZelDockWidgetFromTab *> docks = library_->getChildren();
     if (project_ != library_)
         docks += project_->getChildren();
+    sortByName(docks, [](ZelDockWidget *dock) { return dock->contentsWidget()->objectName(); });
     return docks;
 }
 
@@ -105,7 +130,7 @@ void WorkSpaceInformation::captureTornOut()
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
         record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
-                                                     : dock->geometry());
+                                                     : placeOf(window_, dock));
         record_.tornOutScreens.append(screenIndex(dock));
     }
 }
@@ -171,11 +196,13 @@ void WorkSpaceInformation::captureToolBar()
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
-    for (ZelDockWidget *dock : window_->findChildren<ZelDockWidget *>()) {
+    QList<ZelDockWidget *> docks = window_->findChildren<ZelDockWidget *>();
+    sortByName(docks, [](ZelDockWidget *dock) { return dock->objectName(); });
+    for (ZelDockWidget *dock : std::as_const(docks)) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;
         record_.dockNames.append(dock->objectName());
-        record_.dockRects.append(dock->geometry());
+        record_.dockRects.append(placeOf(window_, dock));
         record_.dockScreens.append(screenIndex(dock));
     }
     for (const QScreen *screen : QGuiApplication::screens())

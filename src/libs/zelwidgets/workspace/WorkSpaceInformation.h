@@ -60,6 +60,7 @@ private:
     void restoreNestedTabs();
     void restoreToolBar();
     void refreshRibbon();
+    void settle();
     void restoreDocking();
 
     QDockWidget *dockOf(const WorkSpaceGeometry::Target &target) const;

@@ -16,6 +16,7 @@
 #include <QAction>
 #include <QDebug>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 #include <QToolButton>
@@ -73,6 +74,7 @@ bool WorkSpaceInformation::restoreState(const QByteArray &data)
     restoreNestedTabs();
     restoreToolBar();
     refreshRibbon();
+    settle();
     restoreDocking();
     if (window_)
         checkStudio("at restore 3", "WorkSpaceInformation::restoreState", __LINE__);
@@ -224,9 +226,10 @@ void WorkSpaceInformation::applyTargets()
     for (const WorkSpaceGeometry::Target &target : std::as_const(targets_)) {
         QDockWidget *dock = dockOf(target);
         if (dock && target.oldRect != WorkSpaceRecord::hiddenRect())
-            placer.place(dock, WorkSpaceGeometry::placed(target, screens));
+            placer.add(dock, WorkSpaceGeometry::placed(target, screens));
     }
-    processEvents();
+    if (placer.hold())
+        processEvents();
     placer.release();
     targets_.clear();
 }
@@ -307,6 +310,16 @@ void WorkSpaceInformation::refreshRibbon()
     bar->setProperty("ForceNotificationUpdate", true);
     bar->setVisible(!bar->isHidden());
     bar->updateGeometry();
+}
+
+/// Buttons that came and went give their bars other sizes.
+void WorkSpaceInformation::settle()
+{
+    if (!window_)
+        return;
+    for (QToolBar *bar : window_->findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly))
+        bar->layout()->activate();
+    window_->layout()->activate();
 }
 
 void WorkSpaceInformation::restoreDocking()
