@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
 
 struct Place
@@ -124,12 +126,28 @@ void select(ZelTextIconTabWidget *tabs, const char *name)
         tabs->setCurrentWidget(page);
 }
 
-void placeDocks(DeskWindow *window, const QList<Place> &places)
+/// Docks that the arrangement doesn't show have a place as well, or a restore would leave them as
+/// they are.
+void placeHidden(DeskWindow *window, const QList<Place> &places)
 {
     for (ZelDockWidget *dock : window->docks()) {
         dock->setFloating(false);
         window->removeDockWidget(dock);
     }
+    for (ZelDockWidget *dock : window->docks()) {
+        const bool isShown = std::any_of(places.begin(), places.end(), [dock](const Place &place) {
+            return dock->objectName() == QLatin1String(place.dock);
+        });
+        if (!isShown) {
+            window->addDockWidget(Qt::RightDockWidgetArea, dock);
+            dock->hide();
+        }
+    }
+}
+
+void placeDocks(DeskWindow *window, const QList<Place> &places)
+{
+    placeHidden(window, places);
     for (const Qt::Orientation direction : {Qt::Horizontal, Qt::Vertical}) {
         QList<QDockWidget *> docks;
         QList<int> extents;

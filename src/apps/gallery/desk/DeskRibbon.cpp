@@ -25,7 +25,7 @@ DeskRibbon::DeskRibbon(DeskWindow *window)
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setAccessibleName(tr("Ribbon"));
     workSpaces_->setAccessibleName(tr("Workspace"));
-    workSpaces_->setMinimumWidth(fontMetrics().averageCharWidth() * nameLength);
+    workSpaces_->setFixedWidth(fontMetrics().averageCharWidth() * nameLength);
     addWidget(workSpaces_);
     addSeparator();
     QAction *commands = add(QStringLiteral("Script"), QStringLiteral("menu"), tr("Commands"),
