@@ -1,8 +1,11 @@
 #include "WorkSpaceHandler.h"
 
 #include "ZelStoredValue.h"
+#include "ZelWindowPlacement.h"
 #include "docks/ZelDocking.h"
 #include "workspace/WorkSpaceDefaults.h"
+#include "workspace/WorkSpaceDockPlacer.h"
+#include "workspace/WorkSpaceGeometry.h"
 #include "workspace/WorkSpaceInformation.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRibbonRules.h"
@@ -11,6 +14,8 @@
 #include <QDebug>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QPointer>
+#include <QScreen>
 #include <QToolBar>
 
 #include <algorithm>
@@ -39,6 +44,26 @@ QList<DefaultWorkSpaceInfo> readDefaultWorkSpaces()
                   return WorkSpaceNames::isIdLess(a.id, b.id);
               });
     return all;
+}
+
+/// Docks may die when others change.
+QList<QPointer<QDockWidget>> docksOf(const QMainWindow *window)
+{
+    const QList<QDockWidget *> docks = window->findChildren<QDockWidget *>();
+    return {docks.begin(), docks.end()};
+}
+
+/// Lets the dock float where it stood, in sight.
+void floatInPlace(const QMainWindow *window, QDockWidget *dock)
+{
+    const QRect place = WorkSpaceDockPlacer::placeOf(window, dock);
+    const QScreen *screen = widgetScreen(dock);
+    const QPointer<QDockWidget> guard(dock);
+    dock->setFloating(true);
+    if (guard && screen)
+        dock->setGeometry(
+            WorkSpaceGeometry::placed(place.translated(window->mapToGlobal(QPoint())), QRect(),
+                                      {screen->geometry(), screen->availableGeometry()}));
 }
 
 } // namespace
@@ -94,12 +119,14 @@ void WorkSpaceHandler::disableDockWidgets(QMainWindow *window)
 {
     if (!window)
         return;
-    for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {
-        if (dock->property(areasProperty).isValid())
+    const QPointer<QMainWindow> guard(window);
+    for (const QPointer<QDockWidget> &dock : docksOf(window)) {
+        if (!guard || !dock || dock->property(areasProperty).isValid())
             continue;
-        dock->setFloating(true);
-        dock->setProperty(areasProperty, QVariant::fromValue(dock->allowedAreas().toInt()));
+        dock->setProperty(areasProperty, dock->allowedAreas().toInt());
         dock->setAllowedAreas(Qt::NoDockWidgetArea);
+        if (!dock->isFloating())
+            floatInPlace(window, dock);
     }
 }
 
@@ -107,8 +134,8 @@ void WorkSpaceHandler::enableDockWidgets(QMainWindow *window)
 {
     if (!window)
         return;
-    for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {
-        const QVariant areas = dock->property(areasProperty);
+    for (const QPointer<QDockWidget> &dock : docksOf(window)) {
+        const QVariant areas = dock ? dock->property(areasProperty) : QVariant();
         if (!areas.isValid())
             continue;
         dock->setAllowedAreas(Qt::DockWidgetAreas::fromInt(areas.toInt()));
@@ -120,13 +147,15 @@ void WorkSpaceHandler::fixSeparators(QToolBar *bar)
 {
     if (!bar)
         return;
-    const QList<QAction *> actions = bar->actions();
+    QList<QPointer<QAction>> actions;
     QList<WorkSpaceRibbonRules::BarItem> items;
-    for (const QAction *action : actions)
+    for (QAction *action : bar->actions()) {
+        actions.append(action);
         items.append({action->isSeparator(), action->isVisible()});
+    }
     const QList<bool> visible = WorkSpaceRibbonRules::visibleItems(items);
     for (int i = 0; i < int(actions.size()); ++i) {
-        if (actions[i]->isSeparator())
+        if (actions[i] && actions[i]->isSeparator())
             actions[i]->setVisible(visible[i]);
     }
 }

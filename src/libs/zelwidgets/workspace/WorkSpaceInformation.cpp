@@ -1,14 +1,12 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelStoredValue.h"
-#include "ZelToolBar.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelTextIconTabWidget.h"
-#include "workspace/WorkSpaceRibbonRules.h"
+#include "workspace/WorkSpaceDockPlacer.h"
 
-#include <QAction>
 #include <QDebug>
 #include <QGuiApplication>
 #include <QMainWindow>
@@ -40,20 +38,6 @@ QStringList pageNames(const QTabWidget *tabs)
     return names;
 }
 
-/// Where the dock is. One behind others in a group of tabs lies where it can't be seen, in a size
-/// that it had some time: it is where those are.
-QRect placeOf(QMainWindow *window, QDockWidget *dock)
-{
-    const QRect place = dock->geometry();
-    if (dock->isFloating() || window->rect().intersects(place))
-        return place;
-    for (const QDockWidget *other : window->tabifiedDockWidgets(dock)) {
-        if (other->isVisible() && window->rect().intersects(other->geometry()))
-            return other->geometry();
-    }
-    return place;
-}
-
 /// The order of children changes whenever one of them becomes a window.
 template <typename Dock, typename Name>
 void sortByName(QList<Dock *> &docks, Name name)
@@ -77,12 +61,6 @@ WorkSpaceInformation::WorkSpaceInformation(QWidget *libraryWindow, QWidget *proj
 bool WorkSpaceInformation::hasWindows() const
 {
     return library_ && project_ && window_;
-}
-
-QToolBar *WorkSpaceInformation::ribbon() const
-{
-    // The button of the workspaces bears this name too.
-    return window_->findChild<QToolBar *>(QStringLiteral("Ribbon"));
 }
 
 QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
@@ -130,7 +108,7 @@ void WorkSpaceInformation::captureTornOut()
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
         record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
-                                                     : placeOf(window_, dock));
+                                                     : WorkSpaceDockPlacer::placeOf(window_, dock));
         record_.tornOutScreens.append(screenIndex(dock));
     }
 }
@@ -155,20 +133,6 @@ void WorkSpaceInformation::captureWindow()
     record_.maximized = window_->isMaximized();
 }
 
-void WorkSpaceInformation::captureRibbon()
-{
-    const QToolBar *bar = ribbon();
-    if (!bar)
-        return;
-    for (const QAction *action : bar->actions()) {
-        const QString name = action->objectName();
-        if (!WorkSpaceRibbonRules::isRibbonAction(name))
-            continue;
-        QStringList &ids = action->isVisible() ? record_.visibleRibbonIds : record_.hiddenRibbonIds;
-        ids.append(WorkSpaceRibbonRules::idOf(name));
-    }
-}
-
 void WorkSpaceInformation::captureNestedTabs()
 {
     for (const QTabWidget *tabs : nestedTabWidgets()) {
@@ -182,17 +146,6 @@ void WorkSpaceInformation::captureNestedTabs()
     }
 }
 
-void WorkSpaceInformation::captureToolBar()
-{
-    const auto *bar = window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar"));
-    if (!bar)
-        return;
-    record_.toolBarIconSize = bar->iconSize();
-    record_.toolBarVisible = !bar->isHidden();
-    record_.toolButtonStyle = qint16(bar->toolButtonStyle());
-    record_.toolBarMode = bar->currentIconSizeMode();
-}
-
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
@@ -202,7 +155,7 @@ void WorkSpaceInformation::captureDocks()
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;
         record_.dockNames.append(dock->objectName());
-        record_.dockRects.append(placeOf(window_, dock));
+        record_.dockRects.append(WorkSpaceDockPlacer::placeOf(window_, dock));
         record_.dockScreens.append(screenIndex(dock));
     }
     for (const QScreen *screen : QGuiApplication::screens())

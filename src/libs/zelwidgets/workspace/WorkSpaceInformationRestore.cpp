@@ -2,7 +2,7 @@
 
 #include "ZelMessageBox.h"
 #include "ZelStoredValue.h"
-#include "ZelToolBar.h"
+#include "docks/ZelDockHold.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelTabOrder.h"
 #include "docks/ZelTextIconTabWidget.h"
@@ -10,16 +10,12 @@
 #include "workspace/WorkSpaceDockPlacer.h"
 #include "workspace/WorkSpaceHandler.h"
 #include "workspace/WorkSpaceNames.h"
-#include "workspace/WorkSpaceRibbonRules.h"
 #include "workspace/WorkSpaceTabOrder.h"
 
-#include <QAction>
 #include <QDebug>
 #include <QGuiApplication>
-#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
-#include <QToolButton>
 
 namespace {
 
@@ -48,6 +44,15 @@ QStringList filtered(const QStringList &names)
     for (const QString &name : names)
         result.append(WorkSpaceNames::filtered(name));
     return result;
+}
+
+int indexOfText(const QTabWidget *tabs, const QString &text)
+{
+    for (int i = 0; i < tabs->count(); ++i) {
+        if (tabs->tabText(i) == text)
+            return i;
+    }
+    return tabs->currentIndex();
 }
 
 } // namespace
@@ -101,6 +106,8 @@ bool WorkSpaceInformation::read(const QByteArray &data)
 
 void WorkSpaceInformation::putPagesBack()
 {
+    // Docks that are still held from a change just before would keep their sizes.
+    ZelDockHold::release(window_);
     QList<QPointer<ZelDockWidgetFromTab>> docks;
     for (ZelDockWidgetFromTab *dock : window_->findChildren<ZelDockWidgetFromTab *>())
         docks.append(dock);
@@ -129,6 +136,7 @@ void WorkSpaceInformation::restoreTabs()
 
 void WorkSpaceInformation::orderTabs(ZelTextIconTabWidget *tabs, const QStringList &order)
 {
+    const Tabs guard(tabs);
     QStringList pages;
     for (int i = 0; i < tabs->count(); ++i) {
         pages.append(WorkSpaceNames::filtered(tabs->widget(i)->objectName()));
@@ -138,7 +146,8 @@ void WorkSpaceInformation::orderTabs(ZelTextIconTabWidget *tabs, const QStringLi
     for (int i = 0; i < tabs->count(); ++i)
         ZelTabOrder::storePosition(tabs, tabs->widget(i), ranks[i]);
     ZelTabOrder::apply(tabs);
-    tearOutPages(tabs);
+    if (guard)
+        tearOutPages(tabs);
 }
 
 void WorkSpaceInformation::tearOutPages(ZelTextIconTabWidget *tabs)
@@ -195,10 +204,8 @@ void WorkSpaceInformation::showLooseDocks()
         if (dock && dock->isHidden())
             dock->show();
     }
-    if (!window_)
-        return;
     for (const WorkSpaceGeometry::Target &target : std::as_const(targets_)) {
-        QDockWidget *dock = target.isTornOut ? nullptr : dockOf(target);
+        QDockWidget *dock = window_ && !target.isTornOut ? dockOf(target) : nullptr;
         if (dock && dock->isHidden() && window_->dockWidgetArea(dock) == Qt::NoDockWidgetArea)
             dock->show();
     }
@@ -234,92 +241,28 @@ void WorkSpaceInformation::applyTargets()
     targets_.clear();
 }
 
-void WorkSpaceInformation::restoreRibbon()
-{
-    QToolBar *bar = window_ ? ribbon() : nullptr;
-    if (!bar)
-        return;
-    const WorkSpaceRibbonRules::Buttons buttons(record_.visibleRibbonIds, record_.hiddenRibbonIds);
-    for (QAction *action : bar->actions()) {
-        const QString name = action->objectName();
-        if (!WorkSpaceRibbonRules::isRibbonAction(name))
-            continue;
-        QWidget *widget = bar->widgetForAction(action);
-        const bool isEnabled = widget && !widget->testAttribute(Qt::WA_ForceDisabled);
-        action->setVisible(buttons.isVisible(name));
-        if (widget)
-            widget->setEnabled(isEnabled);
-    }
-    WorkSpaceHandler::fixSeparators(bar);
-}
-
 void WorkSpaceInformation::restoreNestedTabs()
 {
     if (!hasWindows() || !record_.hasMatchingTabWidgets())
         return;
-    QList<QTabWidget *> present = nestedTabWidgets();
+    const QList<QTabWidget *> nested = nestedTabWidgets();
+    QList<QPointer<QTabWidget>> present(nested.begin(), nested.end());
     for (int i = 0; i < int(record_.tabWidgetNames.size()); ++i) {
         const QString &name = record_.tabWidgetNames[i];
-        const auto found = std::find_if(present.begin(), present.end(), [&](QTabWidget *tabs) {
-            return tabs->objectName() == name;
-        });
+        const auto found =
+            std::find_if(present.begin(), present.end(), [&](const QTabWidget *tabs) {
+                return tabs && tabs->objectName() == name;
+            });
         if (found == present.end())
             continue;
+        // Of several that share a name each has its turn.
         QTabWidget *tabs = *found;
         present.erase(found);
-        if (name != QLatin1String("ScenePageSubTab")) {
-            tabs->setCurrentIndex(record_.tabWidgetIndices[i]);
-            continue;
-        }
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            if (tabs->tabText(tab) == record_.sceneSubTabText)
-                tabs->setCurrentIndex(tab);
-        }
+        const int index = name == QLatin1String("ScenePageSubTab")
+                              ? indexOfText(tabs, record_.sceneSubTabText)
+                              : record_.tabWidgetIndices[i];
+        tabs->setCurrentIndex(index);
     }
-}
-
-void WorkSpaceInformation::restoreToolBar()
-{
-    auto *bar = window_ ? window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar")) : nullptr;
-    if (!bar || !record_.isValid || record_.toolBarIconSize.isEmpty())
-        return;
-    bar->setUpdatesEnabled(false);
-    const auto mode = ZelToolBar::IconSizeMode(record_.toolBarMode);
-    if (ZelToolBar::isKnownMode(mode))
-        bar->setIconSizeMode(mode);
-    else
-        bar->setBestIconSizeModeFromSize(record_.toolBarIconSize);
-    if (record_.toolButtonStyle >= 0 && record_.toolButtonStyle <= Qt::ToolButtonFollowStyle) {
-        const auto style = Qt::ToolButtonStyle(record_.toolButtonStyle);
-        bar->setToolButtonStyle(style);
-        for (QToolButton *button : bar->findChildren<QToolButton *>()) {
-            button->setToolButtonStyle(style);
-            button->setIconSize(bar->iconSize());
-        }
-    }
-    bar->setUpdatesEnabled(true);
-    bar->setVisible(record_.toolBarVisible);
-    bar->updateGeometry();
-}
-
-void WorkSpaceInformation::refreshRibbon()
-{
-    QToolBar *bar = window_ ? ribbon() : nullptr;
-    if (!bar)
-        return;
-    bar->setProperty("ForceNotificationUpdate", true);
-    bar->setVisible(!bar->isHidden());
-    bar->updateGeometry();
-}
-
-/// Buttons that came and went give their bars other sizes.
-void WorkSpaceInformation::settle()
-{
-    if (!window_)
-        return;
-    for (QToolBar *bar : window_->findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly))
-        bar->layout()->activate();
-    window_->layout()->activate();
 }
 
 void WorkSpaceInformation::restoreDocking()
