@@ -16,6 +16,13 @@ install(TARGETS zelsvgiconengines EXPORT ZelWidgetsTargets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 set_target_properties(zelsvgiconengines PROPERTIES EXPORT_NAME IconEngines)
 
+# The checker of workspace files finds the library beside it.
+install(TARGETS zel-workspace-lint RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+file(RELATIVE_PATH libraries_from_programs
+    "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(zel-workspace-lint PROPERTIES
+    INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+
 foreach(library ${libraries})
     get_target_property(prefix ${library} ZEL_INCLUDE_PREFIX)
     get_property(headers GLOBAL PROPERTY ZEL_INSTALLED_HEADERS_${library})
