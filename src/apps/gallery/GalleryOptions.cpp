@@ -68,11 +68,13 @@ GalleryOptions GalleryOptions::fromArguments(const QStringList &arguments)
     QCommandLineOption bundles(QStringLiteral("write-workspaces"), QString(),
                                QStringLiteral("folder"));
     bundles.setFlags(QCommandLineOption::HiddenFromHelp);
+    QCommandLineOption timeStart(QStringLiteral("time-start"));
+    timeStart.setFlags(QCommandLineOption::HiddenFromHelp);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows every widget of zelwidgets at work."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({page, list, theme, scale, screenshots, settings, bundles});
+    parser.addOptions({page, list, theme, scale, screenshots, settings, bundles, timeStart});
     parser.process(arguments);
 
     GalleryOptions options;
@@ -87,6 +89,7 @@ GalleryOptions GalleryOptions::fromArguments(const QStringList &arguments)
     options.screenshotFolder = parser.value(screenshots);
     options.settingsFile = parser.value(settings);
     options.bundleFolder = parser.value(bundles);
+    options.timeStart = parser.isSet(timeStart);
     options.listPages = parser.isSet(list);
     return options;
 }

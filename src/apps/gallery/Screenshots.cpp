@@ -3,17 +3,21 @@
 #include "GalleryApplication.h"
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
+#include "LogPanel.h"
 #include "PageCatalog.h"
+#include "desk/DeskRibbon.h"
 #include "desk/DeskWindow.h"
 #include "viewport/Viewport.h"
 
 #include <ZelWidgets/WorkSpaceHandler>
-#include <ZelWidgets/ZelTextIconTabWidget>
+#include <ZelWidgets/WorkSpaceWidgetRibbon>
+#include <ZelWidgets/ZelMessageBox>
 
 #include <QApplication>
 #include <QDebug>
 #include <QDir>
 #include <QImage>
+#include <QMenu>
 #include <QPixmap>
 
 #include <algorithm>
@@ -85,24 +89,37 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
     return 0;
 }
 
+/// As the user does.
+void chooseWorkSpace(DeskWindow *desk, const QString &id)
+{
+    QMenu *menu = desk->ribbon()->workSpaces()->menu();
+    Q_EMIT menu->aboutToShow();
+    for (QAction *action : menu->actions()) {
+        if (action->data().toString() == id)
+            return action->trigger();
+    }
+}
+
 QImage grabDesk(DeskWindow *desk)
 {
     settle();
     desk->viewport()->takePicture();
     settle();
+    desk->log()->clear();
     return desk->grab().toImage();
 }
 
 int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
                          const QStringList &themes)
 {
+    // Nobody is there to confirm that a workspace is to be as it was.
+    ZelMessageBox::setMode(ZelMessageBox::NoGui);
     desk->resize(deskSize);
     desk->show();
     for (const QString &theme : themes) {
         application->setTheme(theme);
         for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
-            WorkSpaceHandler::restoreWorkSpace(workSpace.data, desk->library(), desk->project(),
-                                               false);
+            chooseWorkSpace(desk, workSpace.id);
             const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
             const QString file = QDir(folder).filePath(name);
             if (!grabDesk(desk).save(file)) {

@@ -6,11 +6,15 @@
 #include "desk/DeskStart.h"
 #include "desk/DeskWindow.h"
 #include "desk/WorkspaceBundles.h"
+#include "viewport/Viewport.h"
 
 #include <ZelCore/ZelSettings>
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -47,6 +51,28 @@ bool preparePlatform(int argc, char **argv)
 #endif
 }
 
+/// Tells when a widget is painted for the first time.
+class StartWatch : public QObject
+{
+public:
+    StartWatch(const QElapsedTimer &clock, QObject *parent)
+        : QObject(parent)
+        , clock_(clock)
+    {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            watched->removeEventFilter(this);
+            std::printf("first paint after %lld ms\n", static_cast<long long>(clock_.elapsed()));
+        }
+        return false;
+    }
+
+private:
+    QElapsedTimer clock_;
+};
+
 int takePictures(GalleryApplication *application, const GalleryOptions &options)
 {
     QStringList themes(options.theme);
@@ -78,11 +104,19 @@ int runPage(GalleryApplication *application, int page)
     return QApplication::exec();
 }
 
-int runDesk(GalleryApplication *application)
+int runDesk(GalleryApplication *application, const QElapsedTimer *clock)
 {
     DeskWindow desk(application);
+    if (clock)
+        desk.viewport()->installEventFilter(new StartWatch(*clock, &desk));
     desk.show();
     DeskStart::restore(&desk);
+    if (clock) {
+        QTimer::singleShot(0, &desk, [clock] {
+            std::printf("ready after %lld ms\n", static_cast<long long>(clock->elapsed()));
+            QCoreApplication::quit();
+        });
+    }
     return QApplication::exec();
 }
 
@@ -90,6 +124,8 @@ int runDesk(GalleryApplication *application)
 
 int main(int argc, char **argv)
 {
+    QElapsedTimer clock;
+    clock.start();
     if (!preparePlatform(argc, argv))
         return 1;
     if (const auto scale = GalleryOptions::scaleFromArguments(argc, argv))
@@ -117,8 +153,9 @@ int main(int argc, char **argv)
         return takePictures(&application, options);
     if (!options.bundleFolder.isEmpty())
         return writeBundles(&application, options.bundleFolder);
-    const int result = options.page.isEmpty() ? runDesk(&application)
-                                              : runPage(&application, pageIndex(options.page));
+    const int result = options.page.isEmpty()
+                           ? runDesk(&application, options.timeStart ? &clock : nullptr)
+                           : runPage(&application, pageIndex(options.page));
     ZelSettings::save();
     return result;
 }

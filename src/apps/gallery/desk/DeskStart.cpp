@@ -6,6 +6,7 @@
 
 #include <ZelCore/ZelSettings>
 #include <ZelCore/ZelSettingsIO>
+#include <ZelWidgets/WorkSpaceAutosave>
 #include <ZelWidgets/WorkSpaceDefaults>
 #include <ZelWidgets/WorkSpaceHandler>
 #include <ZelWidgets/WorkSpaceWidgetRibbon>
@@ -15,12 +16,26 @@
 
 namespace {
 
-QByteArray currentWorkSpace(const DeskWindow *window)
+bool restoreCurrentWorkSpace(const DeskWindow *window)
 {
     const QString id = window->ribbon()->workSpaces()->currentWorkSpace();
-    if (id.isEmpty())
-        return {};
-    return ZelSettings(QStringLiteral("WorkSpaces")).value(id).toByteArray();
+    const QByteArray data = id.isEmpty()
+                                ? QByteArray()
+                                : ZelSettings(QStringLiteral("WorkSpaces")).value(id).toByteArray();
+    return !data.isEmpty() &&
+           WorkSpaceHandler::restoreWorkSpace(data, window->library(), window->project(), true);
+}
+
+bool restoreLast(DeskWindow *window)
+{
+    const bool mayFail = WorkSpaceHandler::mayHaveStartupRestoreIssue();
+    if (mayFail)
+        qWarning() << "The last start ended while it restored its workspace, which is left out now";
+    const auto result = window->autosave()->restore();
+    WorkSpaceHandler::clearStartupIssueFlag();
+    if (mayFail || result != WorkSpaceAutosave::NothingStored)
+        return result == WorkSpaceAutosave::Restored;
+    return restoreCurrentWorkSpace(window);
 }
 
 } // namespace
@@ -29,18 +44,10 @@ void DeskStart::restore(DeskWindow *window)
 {
     ZelStoreSettingsIO settings;
     WorkSpaceDefaults().updateSettingsIfNotAlreadyDone(&settings);
-    QByteArray data;
-    if (WorkSpaceHandler::mayHaveStartupRestoreIssue()) {
-        qWarning() << "The last start ended while it restored its workspace, which is left out now";
-        WorkSpaceHandler::clearStartupIssueFlag();
-    } else {
-        data = currentWorkSpace(window);
-    }
-    const bool isRestored =
-        !data.isEmpty() &&
-        WorkSpaceHandler::restoreWorkSpace(data, window->library(), window->project(), true);
-    if (!isRestored)
+    if (!restoreLast(window))
         DeskArrangement::apply(window, DeskArrangement::standardId(),
                                DeskArrangement::latestMinorVersion);
     window->followStoredSwitches();
+    window->ribbon()->workSpaces()->updateChangeMark();
+    window->autosave()->setEnabled(true);
 }

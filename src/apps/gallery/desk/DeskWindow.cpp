@@ -15,6 +15,7 @@
 #include "viewport/Viewport.h"
 
 #include <ZelCore/ZelSettings>
+#include <ZelWidgets/WorkSpaceAutosave>
 #include <ZelWidgets/WorkSpaceHandler>
 #include <ZelWidgets/WorkSpaceWidgetRibbon>
 #include <ZelWidgets/ZelDockWidget>
@@ -189,6 +190,9 @@ void DeskWindow::connectWorkSpaces()
     WorkSpaceWidgetRibbon *workSpaces = ribbon_->workSpaces();
     workSpaces->setLibraryWindow(library_);
     workSpaces->setProjectWindow(project_);
+    autosave_ = new WorkSpaceAutosave(library_, project_, this);
+    connect(autosave_, &WorkSpaceAutosave::saved, workSpaces,
+            &WorkSpaceWidgetRibbon::updateChangeMark);
     connect(workSpaces, &WorkSpaceWidgetRibbon::changedTheme, application_,
             &GalleryApplication::followTheme);
     // Queued: the button restores the workspace for the same signal.

@@ -12,6 +12,7 @@ class ScenePage;
 class StatisticsPanel;
 class Viewport;
 class ViewScene;
+class WorkSpaceAutosave;
 class ZelDockWidget;
 class ZelTextIconTabWidget;
 class ZelToolBar;
@@ -33,6 +34,9 @@ public:
     ViewScene *scene() const { return scene_; }
     DeskRibbon *ribbon() const { return ribbon_; }
     ZelToolBar *mainToolBar() const { return mainToolBar_; }
+    LogPanel *log() const { return log_; }
+    /// Off at first.
+    WorkSpaceAutosave *autosave() const { return autosave_; }
     /// By its object name.
     ZelDockWidget *dock(const char *name) const;
     QList<ZelDockWidget *> docks() const { return docks_; }
@@ -77,6 +81,7 @@ private:
     StatisticsPanel *statistics_ = nullptr;
     DeskRibbon *ribbon_ = nullptr;
     ZelToolBar *mainToolBar_ = nullptr;
+    WorkSpaceAutosave *autosave_ = nullptr;
     QList<PageGroup *> groups_;
     QList<ZelDockWidget *> docks_;
     QByteArray dockedState_;
