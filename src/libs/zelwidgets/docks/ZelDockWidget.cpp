@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int holderMargin = 3;
+constexpr int holderMargin = 4;
 constexpr double floatingOpacity = 0.8;
 
 QPointer<ZelDockWidget> &lastMovedWidget()
@@ -38,6 +38,8 @@ ZelDockWidget::ZelDockWidget(const QString &title, const QString &objectName, bo
     QDockWidget::setWindowTitle(title);
     setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     setAutoFillBackground(false);
+    // A window that comes up by itself leaves the keyboard where it is.
+    setAttribute(Qt::WA_ShowWithoutActivating);
     d_->title = new ZelDockWidgetTitle(showDockButton, this);
     buildContents();
     setTitleBarWidget(d_->title);

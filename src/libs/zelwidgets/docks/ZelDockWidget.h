@@ -82,6 +82,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void customEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -100,6 +101,7 @@ private:
     void prepareUndockOrHide();
     void floatInMiddle();
     void tellRelease();
+    void focusContents();
     void endResize();
     void rememberSize();
     void followScreen();

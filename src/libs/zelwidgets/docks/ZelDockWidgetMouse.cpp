@@ -6,10 +6,10 @@
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelPaneFocus.h"
 
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QScreen>
 
@@ -33,9 +33,19 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
     case QEvent::MouseButtonRelease:
         handleMouseReleaseEvent(static_cast<QMouseEvent *>(event));
         break;
+    case QEvent::Enter:
+        // No move follows where the pointer comes back to the point that it had left.
+        if (isFloating() && QGuiApplication::mouseButtons() == Qt::NoButton)
+            adjustCursor(
+                resizeStateAt(static_cast<QEnterEvent *>(event)->globalPosition().toPoint()));
+        break;
     case QEvent::Leave:
         if (object == d_->contents)
             endResize();
+        break;
+    case QEvent::WindowActivate:
+        if (object == this)
+            focusContents();
         break;
     case QEvent::MouseButtonDblClick:
         break;
@@ -44,6 +54,15 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
         break;
     }
     return false;
+}
+
+/// A floating dock that becomes active for the first time; the first in the order of the Tab key
+/// is the button that closes it.
+void ZelDockWidget::focusContents()
+{
+    QWidget *target = isFloating() && !focusWidget() ? ZelPaneFocus::target(this) : nullptr;
+    if (target)
+        target->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 int ZelDockWidget::resizeStateAt(const QPoint &globalPoint) const
@@ -55,7 +74,9 @@ void ZelDockWidget::adjustCursor(int resizeState)
 {
     const QCursor cursor =
         resizeState == 0 ? d_->savedCursor : QCursor(ZelDockGeometry::cursorFor(resizeState));
-    for (QWidget *widget : {d_->holder.data(), static_cast<QWidget *>(d_->title.data())}) {
+    // The outermost pixels, the frame, are the dock's own.
+    for (QWidget *widget : {d_->holder.data(), static_cast<QWidget *>(d_->title.data()),
+                            static_cast<QWidget *>(this)}) {
         if (widget && widget->cursor().shape() != cursor.shape())
             widget->setCursor(cursor);
     }
@@ -124,14 +145,24 @@ void ZelDockWidget::endResize()
 
 void ZelDockWidget::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (!hitTest(event->globalPos())) {
+    // What comes from the contents by key had its menu there: the event doesn't tell, as it loses
+    // its mark of acceptance on the way.
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (byKey ? ZelPaneFocus::isIn(d_->holder) : !hitTest(event->globalPos())) {
         QDockWidget::contextMenuEvent(event);
         return;
     }
-    QMenu *menu = ZelDockMenu::create(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->popup(event->globalPos());
+    if (byKey)
+        ZelDockMenu::openBelowTitle(this);
+    else
+        ZelDockMenu::open(this, event->globalPos());
     event->accept();
+}
+
+void ZelDockWidget::keyPressEvent(QKeyEvent *event)
+{
+    if (!ZelPaneFocus::openMenuByKey(event))
+        QDockWidget::keyPressEvent(event);
 }
 
 void ZelDockWidget::leaveEvent(QEvent *event)

@@ -2,6 +2,7 @@
 
 #include "ZelStoredValue.h"
 
+#include <QGuiApplication>
 #include <QMainWindow>
 
 namespace ZelDocking {
@@ -15,6 +16,11 @@ int restoreDepth = 0;
 bool isEnabled()
 {
     return storedValue(ZelSettings(QStringLiteral("ui")), QStringLiteral("EnableDocking"), true);
+}
+
+bool hasGlobalPositions()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 QMainWindow *mainWindowOf(QWidget *widget)

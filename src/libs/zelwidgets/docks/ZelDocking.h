@@ -9,6 +9,9 @@ namespace ZelDocking {
 /// The user's switch: the key "EnableDocking" of the group "ui", true if there is none.
 bool isEnabled();
 
+/// False where the desktop places the windows itself, so that none can be moved to a place.
+bool hasGlobalPositions();
+
 /// The nearest main window that the widget is in; null if there is none.
 QMainWindow *mainWindowOf(QWidget *widget);
 

@@ -190,13 +190,9 @@ void ZelDragOutEventFilter::reorder(const QPoint &globalPoint)
     QList<QRect> places;
     for (int i = 0; i < bar->count(); ++i)
         places.append(bar->tabRect(i));
-    const int to =
-        ZelTabDragRules::reorderTarget(places, from, bar->mapFromGlobal(globalPoint).x());
-    if (to == from)
-        return;
-    ZelTabOrder::markOriginal(tabs_);
-    bar->moveTab(from, to);
-    ZelTabOrder::store(tabs_);
+    const int to = ZelTabDragRules::reorderTarget(places, from, bar->mapFromGlobal(globalPoint).x(),
+                                                  bar->layoutDirection());
+    ZelTabOrder::move(tabs_, from, to);
 }
 
 ZelDockWidgetFromTab *ZelDragOutEventFilter::tearOut(int tab)

@@ -18,6 +18,14 @@ int distanceOf(const QRect &bar, const QPoint &pointer)
            std::min(std::abs(pointer.x() - bar.left()), std::abs(pointer.x() - bar.right()));
 }
 
+/// The rectangles as they stand in the mirror at x = 0.
+QList<QRect> mirrored(QList<QRect> tabs)
+{
+    for (QRect &tab : tabs)
+        tab.moveLeft(-tab.right());
+    return tabs;
+}
+
 int tabAt(const QList<QRect> &tabs, int x)
 {
     const auto last = std::find_if(tabs.cbegin(), tabs.cend(),
@@ -32,10 +40,12 @@ bool isTornOut(const QRect &bar, const QPoint &pointer, int startDragDistance)
     return !bar.contains(pointer) && distanceOf(bar, pointer) >= tearOutFactor * startDragDistance;
 }
 
-int reorderTarget(const QList<QRect> &tabs, int from, int x)
+int reorderTarget(const QList<QRect> &tabs, int from, int x, Qt::LayoutDirection direction)
 {
     if (tabs.isEmpty())
         return from;
+    if (direction == Qt::RightToLeft)
+        return reorderTarget(mirrored(tabs), from, -x);
     int target = tabAt(tabs, x);
     if (x > tabs[target].center().x())
         ++target;

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QPoint>
 #include <QRect>
+#include <Qt>
 
 /// What a drag of a tab means, apart from the widgets.
 namespace ZelTabDragRules {
@@ -13,6 +14,8 @@ namespace ZelTabDragRules {
 bool isTornOut(const QRect &bar, const QPoint &pointer, int startDragDistance);
 
 /// Where the tab goes if it is let go at x; a point beyond the tabs counts as the outermost one.
-int reorderTarget(const QList<QRect> &tabs, int from, int x);
+/// The first tab is at the left, in a right-to-left layout at the right.
+int reorderTarget(const QList<QRect> &tabs, int from, int x,
+                  Qt::LayoutDirection direction = Qt::LeftToRight);
 
 } // namespace ZelTabDragRules

@@ -94,6 +94,15 @@ void store(const QTabWidget *tabs)
         storePosition(tabs, tabs->widget(i), i);
 }
 
+void move(QTabWidget *tabs, int from, int to)
+{
+    if (from == to || !tabs->widget(from) || !tabs->widget(to))
+        return;
+    markOriginal(tabs);
+    tabs->tabBar()->moveTab(from, to);
+    store(tabs);
+}
+
 void apply(QTabWidget *tabs)
 {
     arrange(tabs,

@@ -19,6 +19,9 @@ void storePosition(const QTabWidget *tabs, const QWidget *page, int position);
 bool removePosition(const QTabWidget *tabs, const QWidget *page);
 /// Stores the present order.
 void store(const QTabWidget *tabs);
+/// Takes a tab to another place, as the user asked, and stores the order. Does nothing if there is
+/// no such tab or place.
+void move(QTabWidget *tabs, int from, int to);
 
 /// Sorts the pages by their stored positions; those that have none come last, as they are.
 void apply(QTabWidget *tabs);

@@ -1,7 +1,9 @@
 #include "ZelTextIconTabBar.h"
 
 #include "ZelMenu.h"
+#include "docks/ZelDockMenu.h"
 #include "docks/ZelDockWidgetFromTab.h"
+#include "docks/ZelPaneFocus.h"
 #include "docks/ZelTextIconTabWidget.h"
 
 #include <QContextMenuEvent>
@@ -163,13 +165,33 @@ ZelTextIconTabWidget *ZelTextIconTabBar::tabWidget() const
 
 void ZelTextIconTabBar::contextMenuEvent(QContextMenuEvent *event)
 {
-    QMenu *menu = createContextMenu();
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const int under = byKey ? -1 : tabAt(event->pos());
+    const int tab = under < 0 ? currentIndex() : under;
+    QMenu *menu = createContextMenu(tab);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->popup(event->globalPos());
+    menu->popup(byKey ? mapToGlobal(tabRect(tab).bottomLeft()) : event->globalPos());
     event->accept();
 }
 
-QMenu *ZelTextIconTabBar::createContextMenu()
+void ZelTextIconTabBar::keyPressEvent(QKeyEvent *event)
+{
+    if (!ZelPaneFocus::openMenuByKey(event))
+        QTabBar::keyPressEvent(event);
+}
+
+void ZelTextIconTabBar::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTabBar::mouseReleaseEvent(event);
+    // A click: a tab that was dragged away isn't under the pointer any more.
+    if (event->button() != Qt::LeftButton || currentIndex() < 0 ||
+        tabAt(event->position().toPoint()) != currentIndex())
+        return;
+    if (ZelTextIconTabWidget *tabs = tabWidget())
+        ZelPaneFocus::enter(tabs->currentWidget());
+}
+
+QMenu *ZelTextIconTabBar::createContextMenu(int tab)
 {
     auto *menu = new ZelMenu(this);
     addCheckable(menu->addAction(tr("Text")), d_->style & TextStyle, int(Entry::Text));
@@ -179,8 +201,11 @@ QMenu *ZelTextIconTabBar::createContextMenu()
             menu->addAction(tr("Restore Tabs"))->setData(int(Entry::Restore));
         else if (tabs->hasReorderedDialogs())
             menu->addAction(tr("Restore Tab Order"))->setData(int(Entry::Restore));
-        if (tabs->dockMode())
+        if (tabs->dockMode()) {
             addTabEntries(menu, tabs);
+            if (QWidget *page = tabs->widget(tab < 0 ? currentIndex() : tab))
+                ZelDockMenu::addTabEntries(menu, tabs, page);
+        }
     }
     connect(menu, &QMenu::triggered, this, &ZelTextIconTabBar::handleContextMenuAction);
     return menu;
@@ -213,7 +238,7 @@ void ZelTextIconTabBar::handleContextMenuAction(QAction *action)
         // The menu stays open: what was a tab may be a window by now, and the other way round.
         const int tab = tabs->indexOf(page);
         if (!action->isChecked() && tab >= 0) {
-            if (!tabs->changeTab2Window(tab))
+            if (!ZelDocking::isEnabled() || !tabs->changeTab2Window(tab))
                 action->setChecked(true);
         } else if (action->isChecked() && tab < 0) {
             for (ZelDockWidgetFromTab *child : tabs->getChildren()) {

@@ -32,8 +32,9 @@ public:
     void setTabHeaderStyle(int style);
     /// Shares a width among the tabs.
     void setTabWidgetWidth(int width);
-    /// The context menu, which belongs to the caller.
-    QMenu *createContextMenu();
+    /// The context menu, which belongs to the caller; its last entries are about the tab, without
+    /// one about the current tab.
+    QMenu *createContextMenu(int tab = -1);
 
 public Q_SLOTS:
     /// Does what the entry of the context menu stands for.
@@ -47,6 +48,8 @@ protected:
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
