@@ -3,6 +3,7 @@
 #include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelDocksOf.h"
 #include "workspace/WorkSpaceDefaults.h"
 #include "workspace/WorkSpaceDockPlacer.h"
 #include "workspace/WorkSpaceGeometry.h"
@@ -49,7 +50,7 @@ QList<DefaultWorkSpaceInfo> readDefaultWorkSpaces()
 /// Docks may die when others change.
 QList<QPointer<QDockWidget>> docksOf(const QMainWindow *window)
 {
-    const QList<QDockWidget *> docks = window->findChildren<QDockWidget *>();
+    const QList<QDockWidget *> docks = zelDocksOf<QDockWidget>(window);
     return {docks.begin(), docks.end()};
 }
 

@@ -4,6 +4,7 @@
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelDocksOf.h"
 #include "docks/ZelTextIconTabWidget.h"
 #include "workspace/WorkSpaceDockPlacer.h"
 
@@ -21,7 +22,8 @@ bool readSwitch(const QString &key, bool fallback)
 {
     ZelSettings settings(QStringLiteral("WorkSpaces"));
     const bool value = storedValue(settings, key, fallback);
-    settings.setValue(key, value);
+    if (settings.value(key) != QVariant(value))
+        settings.setValue(key, value);
     return value;
 }
 
@@ -149,7 +151,7 @@ void WorkSpaceInformation::captureNestedTabs()
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
-    QList<ZelDockWidget *> docks = window_->findChildren<ZelDockWidget *>();
+    QList<ZelDockWidget *> docks = zelDocksOf<ZelDockWidget>(window_);
     sortByName(docks, [](ZelDockWidget *dock) { return dock->objectName(); });
     for (ZelDockWidget *dock : std::as_const(docks)) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
