@@ -16,7 +16,8 @@ install(TARGETS zelsvgiconengines EXPORT ZelWidgetsTargets
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 set_target_properties(zelsvgiconengines PROPERTIES EXPORT_NAME IconEngines)
 
-# The checker of workspace files finds the library beside it.
+# The libraries find each other, and the checker of workspace files finds them, wherever they lie.
+set_target_properties(${libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS zel-workspace-lint RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 file(RELATIVE_PATH libraries_from_programs
     "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")

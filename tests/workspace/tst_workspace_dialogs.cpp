@@ -8,6 +8,7 @@
 #include "workspace/WorkSpaceRibbonData.h"
 #include "workspace/WorkSpaceTextDialog.h"
 
+#include <QAccessible>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -145,6 +146,7 @@ private Q_SLOTS:
     void tellsWhatFailed_data();
     void tellsWhatFailed();
     void hasAKeyboardMenu();
+    void namesWhatTakesTheFocus();
     void survivesTheEndOfItsParent();
 };
 
@@ -395,6 +397,25 @@ void TestWorkspaceDialogs::hasAKeyboardMenu()
     QApplication::sendEvent(shown.table->viewport(), &event);
     QCOMPARE(texts, (QStringList{QStringLiteral("Rename"), QStringLiteral("Delete")}));
     QCOMPARE(shown.table->model()->rowCount(), 2);
+}
+
+void TestWorkspaceDialogs::namesWhatTakesTheFocus()
+{
+    WorkSpaceMaintainDialog managing(sampleData());
+    WorkSpaceTextDialog naming(QStringLiteral("Add"), QStringLiteral("Name:"), QString());
+    for (QDialog *dialog : {static_cast<QDialog *>(&managing), static_cast<QDialog *>(&naming)}) {
+        dialog->show();
+        int stops = 0;
+        for (QWidget *widget : dialog->findChildren<QWidget *>()) {
+            if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+                continue;
+            ++stops;
+            QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
+                     widget->metaObject()->className());
+        }
+        QCOMPARE(stops, dialog == &managing ? 9 : 3);
+    }
 }
 
 void TestWorkspaceDialogs::survivesTheEndOfItsParent()

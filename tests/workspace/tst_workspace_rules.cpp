@@ -1,5 +1,6 @@
 #include "TestCase.h"
 
+#include "workspace/WorkSpaceComparison.h"
 #include "workspace/WorkSpaceGeometry.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRecord.h"
@@ -9,6 +10,7 @@
 #include <ZelCore/splitTrailingNumber>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -39,6 +41,8 @@ private Q_SLOTS:
     void showsRibbonButtons_data();
     void showsRibbonButtons();
     void thinsOutSeparators();
+    void comparesArrangements_data();
+    void comparesArrangements();
 };
 
 void TestWorkspaceRules::splitsTrailingNumbers_data()
@@ -251,6 +255,77 @@ void TestWorkspaceRules::thinsOutSeparators()
     QCOMPARE(thin("b||b"), QStringLiteral("1101"));
     QCOMPARE(thin("b|h|hb|"), QStringLiteral("1100011"));
     QCOMPARE(thin("||"), QStringLiteral("10"));
+}
+
+using Change = std::function<void(WorkSpaceRecord &)>;
+Q_DECLARE_METATYPE(Change)
+
+void TestWorkspaceRules::comparesArrangements_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<bool>("isSame");
+    const auto row = [](const char *name, bool isSame, const Change &change) {
+        QTest::newRow(name) << change << isSame;
+    };
+    row("nothing", true, [](WorkSpaceRecord &) {});
+    row("another tab", true, [](WorkSpaceRecord &r) {
+        r.libraryTabIndex = 3;
+        r.tabWidgetIndices = {2};
+        r.sceneSubTabText = QStringLiteral("Two");
+    });
+    row("other order of docks", true, [](WorkSpaceRecord &r) {
+        std::reverse(r.dockNames.begin(), r.dockNames.end());
+        std::reverse(r.dockRects.begin(), r.dockRects.end());
+    });
+    row("another size of the window", true, [](WorkSpaceRecord &r) {
+        r.mainWindowGeometry = QRect(0, 0, 500, 400);
+        r.dockRects[0] = QRect(0, 0, 10, 10);
+        r.mainWindowState = "other";
+    });
+    row("a moved window", true, [](WorkSpaceRecord &r) { r.mainWindowGeometry.translate(10, 10); });
+    row("another screen", true, [](WorkSpaceRecord &r) {
+        r.screens = {QRect(0, 0, 800, 600)};
+        r.tornOutRects[0] = QRect(0, 0, 10, 10);
+        r.tornOutScreens[0] = -1;
+    });
+    row("a dock gone", false, [](WorkSpaceRecord &r) {
+        r.mainWindowGeometry = QRect(0, 0, 500, 400);
+        r.dockNames.removeLast();
+        r.dockRects.removeLast();
+        r.dockScreens.removeLast();
+    });
+    row("another layout", false, [](WorkSpaceRecord &r) { r.mainWindowState = "other"; });
+    row("swapped docks", false,
+        [](WorkSpaceRecord &r) { std::reverse(r.dockRects.begin(), r.dockRects.end()); });
+    row("another order of tabs", false, [](WorkSpaceRecord &r) {
+        std::reverse(r.libraryTabOrder.begin(), r.libraryTabOrder.end());
+    });
+    row("a moved page", false, [](WorkSpaceRecord &r) { r.tornOutRects[0].translate(1, 0); });
+    row("a hidden button", false,
+        [](WorkSpaceRecord &r) { r.hiddenRibbonIds.append(QStringLiteral("GPU")); });
+}
+
+void TestWorkspaceRules::comparesArrangements()
+{
+    QFETCH(Change, change);
+    WorkSpaceRecord record;
+    record.mainWindowState = "state";
+    record.mainWindowGeometry = QRect(0, 0, 900, 700);
+    record.screens = {QRect(0, 0, 1600, 1200)};
+    record.libraryTabOrder = words("L1 L2");
+    record.tornOutNames = words("P1");
+    record.tornOutRects = {QRect(10, 10, 200, 100)};
+    record.tornOutScreens = {0};
+    record.tabWidgetNames = words("Nested");
+    record.tabWidgetIndices = {0};
+    record.dockNames = words("Log Scene");
+    record.dockRects = {QRect(0, 0, 100, 100), QRect(0, 100, 100, 200)};
+    record.dockScreens = {0, 0};
+    const QByteArray before = record.write();
+    change(record);
+    const QByteArray after = record.write();
+    QTEST(WorkSpaceComparison::isSameArrangement(before, after), "isSame");
+    QVERIFY(!WorkSpaceComparison::isSameArrangement(before.chopped(1), after));
 }
 
 ZEL_TEST_MAIN(TestWorkspaceRules)

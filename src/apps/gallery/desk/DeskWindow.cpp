@@ -20,6 +20,8 @@
 #include <ZelWidgets/WorkSpaceWidgetRibbon>
 #include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelDockWidgetFromTab>
+#include <ZelWidgets/ZelDockingMode>
+#include <ZelWidgets/ZelPaneWalker>
 #include <ZelWidgets/ZelShortcutHandler>
 #include <ZelWidgets/ZelTextIconTabWidget>
 #include <ZelWidgets/ZelToolBar>
@@ -67,6 +69,8 @@ DeskWindow::DeskWindow(GalleryApplication *application)
     new DeskMenus(this, application_);
     connectScene();
     connectWorkSpaces();
+    new ZelDockingMode(this);
+    new ZelPaneWalker(this);
     restoreWindow();
     viewport_->setFocus();
     ZelShortcutHandler::instance()->restoreSettings();

@@ -16,12 +16,16 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyleOptionButton>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int dotSize = 6;
-constexpr int dotMargin = 4;
-constexpr int dotIconSize = 16;
+/// Wide enough for the space that a style sheet puts in front of a name.
+constexpr int dotMargin = 14;
+constexpr int dotIconSize = 10;
 
 /// A name as text of a button or an entry, where "&" would mark a key.
 QString shown(const QString &name)
@@ -312,7 +316,7 @@ QString WorkSpaceWidgetRibbon::askForName(const QString &title, const QString &p
     const QPointer<WorkSpaceTextDialog> dialog =
         new WorkSpaceTextDialog(title, tr("Workspace Name:"), proposal, this);
     const bool isAccepted = dialog->exec() == QDialog::Accepted && dialog;
-    const QString name = isAccepted ? dialog->text() : QString();
+    const QString name = isAccepted ? dialog->text().trimmed() : QString();
     delete dialog.data();
     return name;
 }
@@ -399,7 +403,13 @@ void WorkSpaceWidgetRibbon::paintEvent(QPaintEvent *event)
     ZelMenuButton::paintEvent(event);
     if (!isChanged_)
         return;
-    const QRect dot(width() - dotSize - dotMargin, dotMargin, dotSize, dotSize);
+    // Behind the name, as long as there is room in front of the arrow.
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
+    const int nameEnd = contents.left() + fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const int left = std::min(nameEnd + dotMargin, contents.right() - dotSize);
+    const QRect dot(left, (height() - dotSize) / 2, dotSize, dotSize);
     QPainter painter(this);
     paintDot(&painter, QStyle::visualRect(layoutDirection(), rect(), dot), palette());
 }
