@@ -306,7 +306,4 @@ void DeskWindow::closeEvent(QCloseEvent *event)
     setProperty("ClosingZelmora", true);
     windowSettings().setValue(QStringLiteral("geometry"), saveGeometry());
     QMainWindow::closeEvent(event);
-    // Windows of torn-out pages don't keep the application alive.
-    if (event->isAccepted())
-        qApp->quit();
 }

@@ -83,8 +83,11 @@ QWidget *ScenePage::createObjectTab()
 
     connect(visible_, &QCheckBox::toggled, this,
             [this](bool on) { scene_->setVisible(scene_->selected(), on); });
-    connect(color_, &ZelColorWidget::colorUpdated, this,
-            [this] { scene_->setColor(scene_->selected(), color_->getQColor()); });
+    connect(color_, &ZelColorWidget::colorUpdated, this, [this] {
+        // An open dialog goes with the field, when the scene may be gone.
+        if (scene_)
+            scene_->setColor(scene_->selected(), color_->getQColor());
+    });
     connect(glossRow_, &ZelDoubleSliderEdit::valueUpdated, this,
             [this] { scene_->setGloss(scene_->selected(), gloss_); });
     return tab;

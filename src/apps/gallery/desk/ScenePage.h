@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QCheckBox;
@@ -34,8 +35,8 @@ private:
     void showLight();
     void takeCamera();
 
-    ViewScene *scene_;
-    Viewport *viewport_;
+    QPointer<ViewScene> scene_;
+    QPointer<Viewport> viewport_;
     QTabWidget *tabs_;
     QLabel *objectName_ = nullptr;
     QCheckBox *visible_ = nullptr;

@@ -52,10 +52,13 @@ SceneTreePanel::SceneTreePanel(ViewScene *scene, QWidget *parent)
     fill();
     connect(scene_, &ViewScene::changed, this, &SceneTreePanel::follow);
     connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) {
-        scene_->setVisible(indexOfTopLevelItem(item), item->checkState(0) == Qt::Checked);
+        if (scene_)
+            scene_->setVisible(indexOfTopLevelItem(item), item->checkState(0) == Qt::Checked);
     });
-    connect(this, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem *item) { scene_->select(indexOfTopLevelItem(item)); });
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
+        if (scene_)
+            scene_->select(indexOfTopLevelItem(item));
+    });
 }
 
 void SceneTreePanel::fill()

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QListWidget>
+#include <QPointer>
 #include <QTreeWidget>
 #include <QWidget>
 
@@ -23,7 +24,7 @@ private:
     void fill();
     void follow();
 
-    ViewScene *scene_;
+    QPointer<ViewScene> scene_;
 };
 
 /// The studios that the scene can be shown in.
