@@ -74,6 +74,14 @@ void GalleryApplication::setTheme(const QString &key)
     Q_EMIT themeChanged(key);
 }
 
+void GalleryApplication::followTheme(const QString &key)
+{
+    if (key == theme_)
+        return;
+    theme_ = key;
+    Q_EMIT themeChanged(key);
+}
+
 void GalleryApplication::setFontSize(int points)
 {
     if (points == fontSize())

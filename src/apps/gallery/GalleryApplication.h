@@ -18,6 +18,8 @@ public:
     QString theme() const { return theme_; }
     /// Stores and applies a theme; does nothing if it is in force.
     void setTheme(const QString &key);
+    /// Follows a theme that somebody else has stored and applied.
+    void followTheme(const QString &key);
     /// Stores and applies a font size in points; -1 takes the system's.
     void setFontSize(int points);
     int fontSize() const;

@@ -47,7 +47,7 @@ double scaleNumber(const QString &text)
 
 GalleryOptions GalleryOptions::fromArguments(const QStringList &arguments)
 {
-    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Page to open."),
+    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Open this page alone."),
                                   QStringLiteral("name"));
     const QCommandLineOption list(QStringLiteral("list-pages"),
                                   QStringLiteral("List the pages and leave."));
@@ -59,16 +59,22 @@ GalleryOptions GalleryOptions::fromArguments(const QStringList &arguments)
     const QCommandLineOption screenshots(
         QStringLiteral("screenshots"),
         QStringLiteral(
-            "Write a picture of every page in both themes (or in the one of --theme) and leave."),
+            "Write a picture of every page and of the factory workspaces in both themes (or in the "
+            "one of --theme) and leave."),
         QStringLiteral("folder"));
     const QCommandLineOption settings(QStringLiteral("settings"),
                                       QStringLiteral("Settings file to use."),
                                       QStringLiteral("file"));
+    QCommandLineOption bundles(QStringLiteral("write-workspaces"), QString(),
+                               QStringLiteral("folder"));
+    bundles.setFlags(QCommandLineOption::HiddenFromHelp);
+    QCommandLineOption timeStart(QStringLiteral("time-start"));
+    timeStart.setFlags(QCommandLineOption::HiddenFromHelp);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows every widget of zelwidgets at work."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({page, list, theme, scale, screenshots, settings});
+    parser.addOptions({page, list, theme, scale, screenshots, settings, bundles, timeStart});
     parser.process(arguments);
 
     GalleryOptions options;
@@ -82,6 +88,8 @@ GalleryOptions GalleryOptions::fromArguments(const QStringList &arguments)
         options.scale = scaleNumber(parser.value(scale));
     options.screenshotFolder = parser.value(screenshots);
     options.settingsFile = parser.value(settings);
+    options.bundleFolder = parser.value(bundles);
+    options.timeStart = parser.isSet(timeStart);
     options.listPages = parser.isSet(list);
     return options;
 }

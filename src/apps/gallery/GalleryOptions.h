@@ -12,6 +12,10 @@ struct GalleryOptions
     QString theme;
     QString settingsFile;
     QString screenshotFolder;
+    /// Where the bundles of factory workspaces are to be written, for who builds the gallery.
+    QString bundleFolder;
+    /// Tells the time to the first paint, and leaves.
+    bool timeStart = false;
     std::optional<double> scale;
     bool listPages = false;
 

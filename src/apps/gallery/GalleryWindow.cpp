@@ -1,52 +1,32 @@
 #include "GalleryWindow.h"
 
+#include "BindableAction.h"
 #include "GalleryApplication.h"
 #include "GalleryPage.h"
 #include "LogPanel.h"
+#include "LookControls.h"
 #include "PageCatalog.h"
 
 #include <ZelCore/ZelSettings>
-#include <ZelWidgets/ZelAction>
 #include <ZelWidgets/ZelCommandPalette>
 #include <ZelWidgets/ZelShortcutHandler>
-#include <ZelWidgets/ZelStyleIcon>
-#include <ZelWidgets/ZelStyleSheets>
 
-#include <QActionGroup>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QScrollArea>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace {
-
-constexpr int fontSizes[] = {-1, 8, 9, 10, 11, 12, 14, 16};
-
-QIcon themedIcon(const QString &name)
-{
-    return ZelStyleIcon(QStringLiteral(":/ui/icons/%1.svg").arg(name));
-}
 
 ZelSettings windowSettings()
 {
     return ZelSettings(QStringLiteral("gallery"));
-}
-
-/// Lets users give the action another key; it belongs to the window.
-QAction *bindable(const char *id, QAction *action, QWidget *window)
-{
-    new ZelAction(QLatin1String(id), action, window);
-    return action;
 }
 
 /// True by default, also when the settings hold something else under the key.
@@ -77,7 +57,7 @@ GalleryWindow::GalleryWindow(GalleryApplication *application)
     , pages_(pageCatalog().size(), nullptr)
 {
     setWindowTitle(tr("Widget gallery"));
-    setWindowIcon(themedIcon(QStringLiteral("widgets")));
+    setWindowIcon(LookControls::icon(QStringLiteral("widgets")));
     // The order of creation is the order of the Tab key.
     listPanel_ = createPageList();
     stack_ = new QStackedWidget(this);
@@ -133,7 +113,7 @@ QWidget *GalleryWindow::createPageList()
     list_->setAccessibleName(tr("Pages"));
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const PageEntry &entry : pageCatalog()) {
-        auto *item = new QListWidgetItem(themedIcon(entry.icon), entry.title, list_);
+        auto *item = new QListWidgetItem(LookControls::icon(entry.icon), entry.title, list_);
         item->setToolTip(entry.purpose);
     }
     auto *layout = new QVBoxLayout(panel);
@@ -202,20 +182,11 @@ void GalleryWindow::focusFilter()
 void GalleryWindow::createThemeMenu()
 {
     QMenu *menu = menuBar()->addMenu(tr("&Theme"));
-    auto *group = new QActionGroup(this);
-    for (const auto &[label, key] : ZelStyleSheets::colorThemeList()) {
-        QAction *action = menu->addAction(label);
-        action->setActionGroup(group);
-        action->setCheckable(true);
-        action->setChecked(key == application_->theme());
-        connect(action, &QAction::triggered, this, [this, key = key] { chooseTheme(key); });
-        connect(application_, &GalleryApplication::themeChanged, action,
-                [action, key = key](const QString &now) { action->setChecked(key == now); });
-    }
+    LookControls::addThemes(menu, application_);
     menu->addSeparator();
     bindable("if.fOtherTheme",
              menu->addAction(tr("&Other theme"), QKeySequence(Qt::CTRL | Qt::Key_T), this,
-                             &GalleryWindow::chooseOtherTheme),
+                             [this] { LookControls::takeOtherTheme(application_); }),
              this);
 }
 
@@ -226,64 +197,24 @@ void GalleryWindow::createToolBar()
     bar->setMovable(false);
     bar->addAction(showList_);
     bar->addAction(showLog_);
-    showList_->setIcon(themedIcon(QStringLiteral("list_toggle_mode")));
-    showLog_->setIcon(themedIcon(QStringLiteral("log")));
+    showList_->setIcon(LookControls::icon(QStringLiteral("list_toggle_mode")));
+    showLog_->setIcon(LookControls::icon(QStringLiteral("log")));
     // In the menu the check mark tells more than the icon.
     showList_->setIconVisibleInMenu(false);
     showLog_->setIconVisibleInMenu(false);
     bar->addSeparator();
-    auto *other = new QAction(themedIcon(QStringLiteral("theme")),
+    auto *other = new QAction(LookControls::icon(QStringLiteral("theme")),
                               tr("Switch to the other theme (Ctrl+T)"), this);
-    connect(other, &QAction::triggered, this, [this] {
-        const bool dark = application_->theme() == QStringLiteral("Dark");
-        chooseTheme(dark ? QStringLiteral("Light") : QStringLiteral("Dark"));
-    });
+    connect(other, &QAction::triggered, this,
+            [this] { LookControls::takeOtherTheme(application_); });
     bar->addAction(other);
     bar->addSeparator();
 
     auto *label = new QLabel(tr("Font size"), bar);
-    fontSizeBox_ = new QComboBox(bar);
-    fontSizeBox_->setAccessibleName(tr("Font size"));
-    for (const int points : fontSizes)
-        fontSizeBox_->addItem(points < 0 ? tr("System") : tr("%1 pt").arg(points));
+    fontSizeBox_ = new FontSizeBox(application_, bar);
     label->setBuddy(fontSizeBox_);
     bar->addWidget(label);
     bar->addWidget(fontSizeBox_);
-    updateFontSizeBox();
-    connect(fontSizeBox_, &QComboBox::activated, this, &GalleryWindow::chooseFontSize);
-    connect(application_, &GalleryApplication::fontSizeChanged, this,
-            &GalleryWindow::updateFontSizeBox);
-}
-
-void GalleryWindow::updateFontSizeBox()
-{
-    const auto *found =
-        std::find(std::begin(fontSizes), std::end(fontSizes), application_->fontSize());
-    const QSignalBlocker blocker(fontSizeBox_);
-    fontSizeBox_->setCurrentIndex(
-        found == std::end(fontSizes) ? -1 : static_cast<int>(found - std::begin(fontSizes)));
-}
-
-void GalleryWindow::chooseTheme(const QString &key)
-{
-    // Queued, so that the menu that asked for it is closed before all widgets are polished anew.
-    QMetaObject::invokeMethod(
-        application_, [this, key] { application_->setTheme(key); }, Qt::QueuedConnection);
-}
-
-void GalleryWindow::chooseOtherTheme()
-{
-    for (const auto &theme : ZelStyleSheets::colorThemeList()) {
-        if (theme.second != application_->theme())
-            return chooseTheme(theme.second);
-    }
-}
-
-void GalleryWindow::chooseFontSize(int row)
-{
-    const int points = fontSizes[row];
-    QMetaObject::invokeMethod(
-        application_, [this, points] { application_->setFontSize(points); }, Qt::QueuedConnection);
 }
 
 void GalleryWindow::filterPages(const QString &text)

@@ -6,7 +6,6 @@ class GalleryApplication;
 class GalleryPage;
 class LogPanel;
 class QAction;
-class QComboBox;
 class QLineEdit;
 class QListWidget;
 class QMenu;
@@ -41,10 +40,6 @@ private:
     void filterPages(const QString &text);
     void openFirstMatch();
     void focusFilter();
-    void chooseTheme(const QString &key);
-    void chooseOtherTheme();
-    void chooseFontSize(int row);
-    void updateFontSizeBox();
     void stepPage(int step);
     void fitListToTitles();
     void tellPages();
@@ -57,7 +52,7 @@ private:
     QWidget *listPanel_ = nullptr;
     QStackedWidget *stack_ = nullptr;
     LogPanel *log_ = nullptr;
-    QComboBox *fontSizeBox_ = nullptr;
+    QWidget *fontSizeBox_ = nullptr;
     QAction *showList_ = nullptr;
     QAction *showLog_ = nullptr;
     QList<GalleryPage *> pages_;

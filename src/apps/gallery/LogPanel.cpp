@@ -40,6 +40,7 @@ QString kindOf(QtMsgType type)
 
 LogPanel::LogPanel(QWidget *parent)
     : QWidget(parent)
+    , title_(new QLabel(tr("Signals and messages"), this))
     , clearButton_(new QToolButton(this))
     , view_(new QPlainTextEdit(this))
 {
@@ -50,8 +51,7 @@ LogPanel::LogPanel(QWidget *parent)
     view_->setAccessibleName(tr("Signals and messages"));
     view_->setPlaceholderText(tr("Signals of the page's widgets and Qt's messages appear here."));
 
-    auto *title = new QLabel(tr("Signals and messages"), this);
-    title->setObjectName(QStringLiteral("GalleryPanelTitle"));
+    title_->setObjectName(QStringLiteral("GalleryPanelTitle"));
     clearButton_->setIcon(ZelStyleIcon(QStringLiteral(":/ui/icons/delete.svg")));
     clearButton_->setToolTip(tr("Clear the log"));
     clearButton_->setAccessibleName(clearButton_->toolTip());
@@ -59,7 +59,7 @@ LogPanel::LogPanel(QWidget *parent)
     connect(clearButton_, &QToolButton::clicked, this, &LogPanel::clear);
 
     auto *header = new QHBoxLayout;
-    header->addWidget(title, 1);
+    header->addWidget(title_, 1);
     header->addWidget(clearButton_);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 4, 8, 8);
@@ -85,6 +85,11 @@ void LogPanel::followInTabOrder(QWidget *widget)
 QWidget *LogPanel::lastTabStop() const
 {
     return view_;
+}
+
+void LogPanel::hideTitle()
+{
+    title_->clear();
 }
 
 QString LogPanel::text() const

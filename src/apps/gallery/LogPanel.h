@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QPlainTextEdit;
 class QToolButton;
 
@@ -19,6 +20,8 @@ public:
     void followInTabOrder(QWidget *widget);
     QWidget *lastTabStop() const;
     QString text() const;
+    /// For a panel in a window that has a title of its own.
+    void hideTitle();
 
 public Q_SLOTS:
     void addSignal(const QString &entry);
@@ -29,6 +32,7 @@ private:
     static void handleMessage(QtMsgType type, const QMessageLogContext &context,
                               const QString &text);
 
+    QLabel *title_;
     QToolButton *clearButton_;
     QPlainTextEdit *view_;
 };

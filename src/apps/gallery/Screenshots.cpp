@@ -3,12 +3,21 @@
 #include "GalleryApplication.h"
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
+#include "LogPanel.h"
 #include "PageCatalog.h"
+#include "desk/DeskRibbon.h"
+#include "desk/DeskWindow.h"
+#include "viewport/Viewport.h"
+
+#include <ZelWidgets/WorkSpaceHandler>
+#include <ZelWidgets/WorkSpaceWidgetRibbon>
+#include <ZelWidgets/ZelMessageBox>
 
 #include <QApplication>
 #include <QDebug>
 #include <QDir>
 #include <QImage>
+#include <QMenu>
 #include <QPixmap>
 
 #include <algorithm>
@@ -19,6 +28,7 @@ namespace {
 constexpr int pictureWidth = 1280;
 constexpr int leastHeight = 800;
 constexpr int mostHeight = 6000;
+constexpr QSize deskSize(1600, 1000);
 
 void settle()
 {
@@ -70,6 +80,49 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
             const QString name = pageCatalog()[i].id + u'-' + theme.toLower();
             const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
             if (!grabPage(window, i).save(file)) {
+                qCritical() << "Can't write the picture" << file;
+                return 1;
+            }
+            std::printf("%s\n", qPrintable(file));
+        }
+    }
+    return 0;
+}
+
+/// As the user does.
+void chooseWorkSpace(DeskWindow *desk, const QString &id)
+{
+    QMenu *menu = desk->ribbon()->workSpaces()->menu();
+    Q_EMIT menu->aboutToShow();
+    for (QAction *action : menu->actions()) {
+        if (action->data().toString() == id)
+            return action->trigger();
+    }
+}
+
+QImage grabDesk(DeskWindow *desk)
+{
+    settle();
+    desk->viewport()->takePicture();
+    settle();
+    desk->log()->clear();
+    return desk->grab().toImage();
+}
+
+int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
+                         const QStringList &themes)
+{
+    // Nobody is there to confirm that a workspace is to be as it was.
+    ZelMessageBox::setMode(ZelMessageBox::NoGui);
+    desk->resize(deskSize);
+    desk->show();
+    for (const QString &theme : themes) {
+        application->setTheme(theme);
+        for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
+            chooseWorkSpace(desk, workSpace.id);
+            const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
+            const QString file = QDir(folder).filePath(name);
+            if (!grabDesk(desk).save(file)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }

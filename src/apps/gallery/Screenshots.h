@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 
+class DeskWindow;
 class GalleryApplication;
 class GalleryWindow;
 class QImage;
@@ -13,3 +14,7 @@ QImage grabPage(GalleryWindow *window, int index);
 /// gives the process's exit code: 0, or 1 with a message if a picture can't be written.
 int writeScreenshots(GalleryApplication *application, GalleryWindow *window, const QString &folder,
                      const QStringList &themes);
+
+/// The same for the factory workspaces of the desk; their files are <id>-<theme>.png.
+int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
+                         const QStringList &themes);

@@ -1,6 +1,7 @@
 #include "GestureView.h"
 
-#include <ZelWidgets/KeyStateInformation>
+#include "viewport/GestureKeys.h"
+
 #include <ZelWidgets/ZelMouseActionSettings>
 
 #include <QApplication>
@@ -12,16 +13,6 @@
 namespace {
 
 constexpr int focusWidth = 2;
-
-/// The modifiers with the digit that is held down, wherever the focus is.
-QKeyCombination withDigit(Qt::KeyboardModifiers modifiers)
-{
-    for (const Qt::Key digit : {Qt::Key_1, Qt::Key_2}) {
-        if (KeyStateInformation::isKeyDown(digit))
-            return QKeyCombination(modifiers, digit);
-    }
-    return QKeyCombination(modifiers, Qt::Key_unknown);
-}
 
 } // namespace
 
@@ -38,9 +29,9 @@ GestureView::GestureView(QWidget *parent)
 void GestureView::tell(ZelMouseShortcut::MouseEventAction event, Qt::MouseButtons buttons,
                        Qt::KeyboardModifiers modifiers)
 {
-    const auto *action =
-        ZelMouseActionSettings::instance()->findAction(event, buttons, withDigit(modifiers));
-    Q_EMIT gestureMade({event, withDigit(modifiers), buttons}, action);
+    const auto *action = ZelMouseActionSettings::instance()->findAction(
+        event, buttons, GestureKeys::withDigit(modifiers));
+    Q_EMIT gestureMade({event, GestureKeys::withDigit(modifiers), buttons}, action);
 }
 
 void GestureView::tellClick(Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
