@@ -190,6 +190,10 @@ QString fault(WorkSpaceWindow &window)
             dock->minimumHeight() == dock->maximumHeight())
             return dock->objectName() + QLatin1String(" with a fixed size");
     }
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        if (widget->isVisible() && !widget->updatesEnabled())
+            return widget->objectName() + QLatin1String(" isn't painted");
+    }
     if (QGuiApplication::overrideCursor())
         return QStringLiteral("override cursor");
     return WorkSpaceHandler::isInWorkspaceRestore() ? QStringLiteral("still in a restore")

@@ -74,7 +74,7 @@ bool isOriginal(const QTabWidget *tabs)
 
 void storePosition(const QTabWidget *tabs, const QWidget *page, int position)
 {
-    if (canBeStored(tabs, page))
+    if (canBeStored(tabs, page) && storedPosition(tabs, page) != position)
         ZelSettings(tabs->objectName()).setValue(page->objectName(), position);
 }
 

@@ -2,6 +2,7 @@
 
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelDocksOf.h"
 #include "docks/ZelDragOutEventFilter.h"
 #include "docks/ZelTabOrder.h"
 #include "docks/ZelTextIconTabWidget.h"
@@ -51,7 +52,7 @@ QList<ZelDockWidgetFromTab *> ZelTabWidgetDragDropHelper::getChildren() const
     const QMainWindow *window = ZelDocking::mainWindowOf(tabs_);
     if (!window)
         return {};
-    QList<ZelDockWidgetFromTab *> children = window->findChildren<ZelDockWidgetFromTab *>();
+    QList<ZelDockWidgetFromTab *> children = zelDocksOf<ZelDockWidgetFromTab>(window);
     const auto isForeign = [this](const ZelDockWidgetFromTab *child) {
         return child->tabWidget() != tabs_ || child->contentsWidget() == nullptr;
     };

@@ -1,6 +1,7 @@
 #include "WorkSpaceAnimationBlock.h"
 
 #include "ZelStoredValue.h"
+#include "docks/ZelDocksOf.h"
 #include "theme/AnimationControlStyler.h"
 
 #include <QDockWidget>
@@ -12,10 +13,11 @@ WorkSpaceAnimationBlock::WorkSpaceAnimationBlock(QMainWindow *window)
     const QString key = QStringLiteral("BlockWorkspaceAnimations");
     ZelSettings settings(QStringLiteral("ui"));
     const bool isOn = storedValue(settings, key, false);
-    settings.setValue(key, isOn);
+    if (settings.value(key) != QVariant(isOn))
+        settings.setValue(key, isOn);
     if (!isOn || !window)
         return;
-    for (QDockWidget *dock : window->findChildren<QDockWidget *>()) {
+    for (QDockWidget *dock : zelDocksOf<QDockWidget>(window)) {
         QStyle *own = dock->testAttribute(Qt::WA_SetStyle) ? dock->style() : nullptr;
         auto *styler = new AnimationControlStyler(dock);
         entries_.append({dock, styler, own});

@@ -3,8 +3,9 @@
 #include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelDocksOf.h"
 #include "workspace/WorkSpaceDefaults.h"
-#include "workspace/WorkSpaceDockPlacer.h"
+#include "workspace/WorkSpaceDockPlaces.h"
 #include "workspace/WorkSpaceGeometry.h"
 #include "workspace/WorkSpaceInformation.h"
 #include "workspace/WorkSpaceNames.h"
@@ -49,14 +50,14 @@ QList<DefaultWorkSpaceInfo> readDefaultWorkSpaces()
 /// Docks may die when others change.
 QList<QPointer<QDockWidget>> docksOf(const QMainWindow *window)
 {
-    const QList<QDockWidget *> docks = window->findChildren<QDockWidget *>();
+    const QList<QDockWidget *> docks = zelDocksOf<QDockWidget>(window);
     return {docks.begin(), docks.end()};
 }
 
 /// Lets the dock float where it stood, in sight.
 void floatInPlace(const QMainWindow *window, QDockWidget *dock)
 {
-    const QRect place = WorkSpaceDockPlacer::placeOf(window, dock);
+    const QRect place = WorkSpaceDockPlaces(window).of(dock);
     const QScreen *screen = widgetScreen(dock);
     const QPointer<QDockWidget> guard(dock);
     dock->setFloating(true);

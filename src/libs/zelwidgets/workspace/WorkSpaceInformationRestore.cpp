@@ -4,6 +4,7 @@
 #include "ZelStoredValue.h"
 #include "docks/ZelDockHold.h"
 #include "docks/ZelDockWidgetFromTab.h"
+#include "docks/ZelDocksOf.h"
 #include "docks/ZelTabOrder.h"
 #include "docks/ZelTextIconTabWidget.h"
 #include "workspace/WorkSpaceAnimationBlock.h"
@@ -11,6 +12,7 @@
 #include "workspace/WorkSpaceHandler.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceTabOrder.h"
+#include "workspace/WorkSpaceUpdateBlock.h"
 
 #include <QDebug>
 #include <QGuiApplication>
@@ -70,6 +72,7 @@ bool WorkSpaceInformation::restoreState(const QByteArray &data)
         reportError(tr("Could not set/restore desktop state"));
         return false;
     }
+    const WorkSpaceUpdateBlock block(window_);
     putPagesBack();
     restoreTabs();
     const bool restored = restoreLayout();
@@ -109,7 +112,7 @@ void WorkSpaceInformation::putPagesBack()
     // Docks that are still held from a change just before would keep their sizes.
     ZelDockHold::release(window_);
     QList<QPointer<ZelDockWidgetFromTab>> docks;
-    for (ZelDockWidgetFromTab *dock : window_->findChildren<ZelDockWidgetFromTab *>())
+    for (ZelDockWidgetFromTab *dock : zelDocksOf<ZelDockWidgetFromTab>(window_))
         docks.append(dock);
     for (const QPointer<ZelDockWidgetFromTab> &dock : docks) {
         if (dock)
@@ -214,10 +217,15 @@ void WorkSpaceInformation::showLooseDocks()
 
 QDockWidget *WorkSpaceInformation::dockOf(const WorkSpaceGeometry::Target &target) const
 {
-    if (!target.isTornOut)
-        return target.dock.isEmpty() ? nullptr : window_->findChild<ZelDockWidget *>(target.dock);
+    if (!target.isTornOut) {
+        for (ZelDockWidget *dock : zelDocksOf<ZelDockWidget>(window_)) {
+            if (!target.dock.isEmpty() && dock->objectName() == target.dock)
+                return dock;
+        }
+        return nullptr;
+    }
     const QString name = WorkSpaceNames::filtered(target.dock);
-    for (ZelDockWidgetFromTab *dock : window_->findChildren<ZelDockWidgetFromTab *>()) {
+    for (ZelDockWidgetFromTab *dock : zelDocksOf<ZelDockWidgetFromTab>(window_)) {
         if (dock->page() && dock->page()->objectName() == name && dock->contentsWidget())
             return dock;
     }
@@ -267,8 +275,10 @@ void WorkSpaceInformation::restoreNestedTabs()
 
 void WorkSpaceInformation::restoreDocking()
 {
-    ZelSettings(QStringLiteral("ui"))
-        .setValue(QStringLiteral("EnableDocking"), record_.enableDocking);
+    const QString key = QStringLiteral("EnableDocking");
+    ZelSettings settings(QStringLiteral("ui"));
+    if (settings.value(key) != QVariant(record_.enableDocking))
+        settings.setValue(key, record_.enableDocking);
     if (window_ && record_.enableDocking)
         WorkSpaceHandler::enableDockWidgets(window_);
 }
