@@ -1,9 +1,20 @@
 #include "WorkSpaceUpdateBlock.h"
 
 #include <QWidget>
+#include <QWindow>
+
+namespace {
+
+/// What comes up for the first time while it is blocked would stay empty.
+bool isSeen(const QMainWindow *window)
+{
+    return window->windowHandle() && window->windowHandle()->isExposed();
+}
+
+} // namespace
 
 WorkSpaceUpdateBlock::WorkSpaceUpdateBlock(QMainWindow *window)
-    : window_(window->updatesEnabled() ? window : nullptr)
+    : window_(window->updatesEnabled() && isSeen(window) ? window : nullptr)
 {
     if (window_)
         window_->setUpdatesEnabled(false);

@@ -2,76 +2,19 @@
 
 #include "ZelDialogTextCopier.h"
 #include "ZelMessageBox.h"
-#include "theme/ZelStyleSheets.h"
 #include "workspace/WorkSpaceComparison.h"
 #include "workspace/WorkSpaceFiles.h"
 #include "workspace/WorkSpaceHandler.h"
 #include "workspace/WorkSpaceMaintainDialog.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRibbonData.h"
+#include "workspace/WorkSpaceRibbonLook.h"
 #include "workspace/WorkSpaceTextDialog.h"
 
 #include <QMenu>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 #include <QStyleOptionButton>
-
-#include <algorithm>
-
-namespace {
-
-constexpr int dotSize = 6;
-/// Wide enough for the space that a style sheet puts in front of a name.
-constexpr int dotMargin = 14;
-constexpr int dotIconSize = 10;
-
-/// A name as text of a button or an entry, where "&" would mark a key.
-QString shown(const QString &name)
-{
-    QString text = name;
-    return text.replace(u'&', QStringLiteral("&&"));
-}
-
-void paintDot(QPainter *painter, const QRectF &place, const QPalette &palette)
-{
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(palette.color(QPalette::Link));
-    painter->drawEllipse(place);
-}
-
-QIcon dotIcon(const QWidget *widget)
-{
-    const qreal ratio = widget->devicePixelRatioF();
-    QPixmap picture((QSizeF(dotIconSize, dotIconSize) * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    const qreal margin = (dotIconSize - dotSize) / 2.0;
-    paintDot(&painter, QRectF(margin, margin, dotSize, dotSize), widget->palette());
-    return picture;
-}
-
-/// Counts a call in which the button may die.
-class RunningCall
-{
-public:
-    explicit RunningCall(std::shared_ptr<WorkSpaceRibbonData> data)
-        : data_(std::move(data))
-    {
-        ++data_->runningCalls;
-    }
-    ~RunningCall() { --data_->runningCalls; }
-    RunningCall(const RunningCall &) = delete;
-    RunningCall &operator=(const RunningCall &) = delete;
-
-private:
-    std::shared_ptr<WorkSpaceRibbonData> data_;
-};
-
-} // namespace
 
 WorkSpaceWidgetRibbon::WorkSpaceWidgetRibbon(QWidget *parent)
     : ZelMenuButton(parent)
@@ -103,17 +46,6 @@ WorkSpaceWidgetRibbon::~WorkSpaceWidgetRibbon()
         menu->setParent(nullptr);
         menu->deleteLater();
     }
-}
-
-void WorkSpaceWidgetRibbon::createMenuButton()
-{
-    auto *menu = new QMenu(tr("Workspaces"), this);
-    menu->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
-    menu->setAttribute(Qt::WA_TranslucentBackground);
-    menu->setToolTipsVisible(true);
-    connect(menu, &QMenu::aboutToShow, this, &WorkSpaceWidgetRibbon::slotCreateMenu);
-    connect(menu, &QMenu::triggered, this, &WorkSpaceWidgetRibbon::slotWorkSpaceMenuItemSelected);
-    setMenu(menu);
 }
 
 QMenu *WorkSpaceWidgetRibbon::menu() const
@@ -150,89 +82,10 @@ void WorkSpaceWidgetRibbon::slotSetInitialWorkSpaces()
     showCurrentName();
 }
 
-void WorkSpaceWidgetRibbon::slotCreateMenu()
-{
-    updateChangeMark();
-    QMenu *const menu = this->menu();
-    menu->clear();
-    const bool hasCurrent = data_->list.contains(data_->currentId);
-    addWorkSpaceEntries();
-    menu->addSeparator();
-    menu->addAction(tr("Add..."), this, &WorkSpaceWidgetRibbon::slotAddWorkSpace)
-        ->setToolTip(tr("Add the current workspace to the combo"));
-    QAction *overwrite = menu->addAction(tr("Apply Changes..."), this,
-                                         &WorkSpaceWidgetRibbon::slotOverwriteWorkSpace);
-    overwrite->setToolTip(tr("Overwrite the selected workspace with the current workspace"));
-    overwrite->setEnabled(hasCurrent);
-    menu->addAction(tr("Manage..."), this, &WorkSpaceWidgetRibbon::slotRunMaintainDlg)
-        ->setToolTip(tr("Reorder, rename and delete workspaces"));
-    menu->addSeparator();
-    addThemeEntries();
-    menu->addSeparator();
-    QAction *duplicate =
-        menu->addAction(tr("Duplicate..."), this, &WorkSpaceWidgetRibbon::slotDuplicateWorkSpace);
-    duplicate->setToolTip(tr("Copy the selected workspace as it is saved"));
-    duplicate->setEnabled(hasCurrent);
-    QAction *save =
-        menu->addAction(tr("Export..."), this, &WorkSpaceWidgetRibbon::slotExportWorkSpace);
-    save->setToolTip(tr("Write the selected workspace as it is saved to a file"));
-    save->setEnabled(hasCurrent);
-}
-
-void WorkSpaceWidgetRibbon::addWorkSpaceEntries()
-{
-    for (const QString &id : data_->list.ids()) {
-        QAction *entry = menu()->addAction(shown(data_->list.nameOf(id)));
-        entry->setData(id);
-        if (id != data_->currentId)
-            continue;
-        entry->setText(entry->text() + QStringLiteral("..."));
-        if (!isChanged_)
-            continue;
-        entry->setIcon(dotIcon(this));
-        entry->setToolTip(tr("The interface differs from this workspace"));
-    }
-}
-
-void WorkSpaceWidgetRibbon::addThemeEntries()
-{
-    data_->themeActions.clear();
-    const QString current = ZelStyleSheets::colorThemeFromSettings();
-    for (const auto &[label, key] : ZelStyleSheets::colorThemeList()) {
-        QAction *entry = menu()->addAction(tr("%1 Theme").arg(label));
-        entry->setData(key);
-        entry->setCheckable(true);
-        entry->setChecked(key == current);
-        data_->themeActions.append(entry);
-    }
-}
-
-void WorkSpaceWidgetRibbon::slotWorkSpaceMenuItemSelected(QAction *action)
-{
-    if (!action)
-        return;
-    const QString key = action->data().toString();
-    if (data_->themeActions.contains(action))
-        chooseTheme(key);
-    else if (data_->list.contains(key))
-        chooseWorkSpace(key);
-}
-
-void WorkSpaceWidgetRibbon::chooseTheme(const QString &key)
-{
-    const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
-    ZelStyleSheets::updateColorThemeSettings(key);
-    // Runs posted events.
-    ZelStyleSheets::parseStyleSheetAndSetAsAppRoot(key, QString(), false);
-    if (self)
-        Q_EMIT changedTheme(key);
-}
-
 void WorkSpaceWidgetRibbon::chooseWorkSpace(const QString &id)
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     if (id == data_->currentId && !ZelMessageBox::noGui() && !confirmRevert(data_->list.nameOf(id)))
         return;
     if (!self)
@@ -265,7 +118,7 @@ void WorkSpaceWidgetRibbon::slotOverwriteWorkSpace()
     if (!data_->list.contains(id))
         return;
     const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     const auto answer =
         ZelMessageBox::question(window(), tr("Apply Workspace Changes"),
                                 tr("Do you want to update '%1' to use the current interface "
@@ -281,7 +134,7 @@ void WorkSpaceWidgetRibbon::slotOverwriteWorkSpace()
 void WorkSpaceWidgetRibbon::slotAddWorkSpace()
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     const QString name =
         askForName(tr("Add Workspace"), WorkSpaceNames::proposedName(data_->list.names()));
     if (!self || name.isNull())
@@ -299,7 +152,7 @@ void WorkSpaceWidgetRibbon::slotDuplicateWorkSpace()
     if (!data_->list.contains(original))
         return;
     const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     const QString proposal =
         WorkSpaceNames::importedName(data_->list.nameOf(original), data_->list.names());
     const QString name = askForName(tr("Duplicate Workspace"), proposal);
@@ -324,7 +177,7 @@ QString WorkSpaceWidgetRibbon::askForName(const QString &title, const QString &p
 void WorkSpaceWidgetRibbon::slotExportWorkSpace()
 {
     const QString id = data_->currentId;
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     if (data_->list.contains(id))
         WorkSpaceFiles::exportWorkSpaces(window(),
                                          {{id, data_->list.nameOf(id), data_->list.data(id)}});
@@ -333,7 +186,7 @@ void WorkSpaceWidgetRibbon::slotExportWorkSpace()
 void WorkSpaceWidgetRibbon::slotRunMaintainDlg()
 {
     const QPointer<WorkSpaceWidgetRibbon> self(this);
-    const RunningCall call(data_);
+    const WorkSpaceRunningCall call(data_);
     const QByteArray before = data_->list.data(data_->currentId);
     const QPointer<WorkSpaceMaintainDialog> dialog = new WorkSpaceMaintainDialog(data_, window());
     dialog->exec();
@@ -357,7 +210,7 @@ void WorkSpaceWidgetRibbon::makeCurrent(const QString &id)
 void WorkSpaceWidgetRibbon::showCurrentName()
 {
     const QString name = data_->list.nameOf(data_->currentId);
-    setText(shown(name));
+    setText(WorkSpaceRibbonLook::shownName(name));
     setAccessibleDescription(
         isChanged_ ? tr("%1, the interface differs from this workspace").arg(name) : name);
 }
@@ -403,13 +256,7 @@ void WorkSpaceWidgetRibbon::paintEvent(QPaintEvent *event)
     ZelMenuButton::paintEvent(event);
     if (!isChanged_)
         return;
-    // Behind the name, as long as there is room in front of the arrow.
     QStyleOptionButton option;
     initStyleOption(&option);
-    const QRect contents = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-    const int nameEnd = contents.left() + fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    const int left = std::min(nameEnd + dotMargin, contents.right() - dotSize);
-    const QRect dot(left, (height() - dotSize) / 2, dotSize, dotSize);
-    QPainter painter(this);
-    paintDot(&painter, QStyle::visualRect(layoutDirection(), rect(), dot), palette());
+    WorkSpaceRibbonLook::paintDot(this, option);
 }
