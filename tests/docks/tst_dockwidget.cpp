@@ -86,6 +86,7 @@ private Q_SLOTS:
     void floatsByTitleUnlessSwitchedOff();
     void titleShowsButtonsOfFeatures();
     void edgeOfFloaterIsDragged();
+    void edgeShowsCursorOnFrame();
     void floaterSnapsToScreen();
     void hidingLeavesNeighbourAsItIs();
     void closesTwiceAndOpensOnce();
@@ -241,6 +242,26 @@ void tst_dockwidget::edgeOfFloaterIsDragged()
     const QRect docked = dock->geometry();
     UserInput::drag(dock, QPoint(1, 50), QPoint(-40, 50));
     QCOMPARE(dock->geometry(), docked);
+}
+
+void tst_dockwidget::edgeShowsCursorOnFrame()
+{
+    Window window;
+    ZelDockWidget *dock = window.addDock(QStringLiteral("dock"));
+    window.show();
+    dock->setFloating(true);
+    dock->setGeometry(300, 300, 200, 200);
+    QCoreApplication::processEvents();
+    const QPoint corner(0, dock->height() - 1);
+    // The pointer may come back without a move.
+    for (int round = 0; round < 2; ++round) {
+        QEnterEvent enter(corner, corner, dock->mapToGlobal(corner));
+        QCoreApplication::sendEvent(dock, &enter);
+        QCOMPARE(dock->cursor().shape(), Qt::SizeBDiagCursor);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(dock, &leave);
+        QCOMPARE(dock->cursor().shape(), Qt::ArrowCursor);
+    }
 }
 
 void tst_dockwidget::floaterSnapsToScreen()

@@ -13,6 +13,7 @@
 #include <ZelWidgets/ZelSimpleTabBar>
 #include <ZelWidgets/ZelTextIconTabWidget>
 
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QSignalSpy>
@@ -95,7 +96,9 @@ private Q_SLOTS:
     void escapeCancelsDrag();
     void dragReordersAndIsStored();
     void nearDragDoesNothing();
+    void clickFocusesPage();
     void menuTearsOutAndPutsBack();
+    void menuMovesTabs();
     void menuChoosesHeaderStyle();
     void namesAreNumberedByMoves();
     void ownersMayDie_data();
@@ -126,13 +129,18 @@ void tst_tabdragout::reorderTarget_data()
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("to");
-    QTest::newRow("right, before the centre") << 0 << 140 << 0;
-    QTest::newRow("right, past the centre") << 0 << 160 << 1;
-    QTest::newRow("right, beyond all") << 0 << 900 << 2;
-    QTest::newRow("left, past the centre") << 2 << 160 << 2;
-    QTest::newRow("left, before the centre") << 2 << 140 << 1;
-    QTest::newRow("left, beyond all") << 2 << -50 << 0;
-    QTest::newRow("in place") << 1 << 180 << 1;
+    QTest::addColumn<bool>("mirrored");
+    QTest::newRow("right, before the centre") << 0 << 140 << 0 << false;
+    QTest::newRow("right, past the centre") << 0 << 160 << 1 << false;
+    QTest::newRow("right, beyond all") << 0 << 900 << 2 << false;
+    QTest::newRow("left, past the centre") << 2 << 160 << 2 << false;
+    QTest::newRow("left, before the centre") << 2 << 140 << 1 << false;
+    QTest::newRow("left, beyond all") << 2 << -50 << 0 << false;
+    QTest::newRow("in place") << 1 << 180 << 1 << false;
+    QTest::newRow("mirrored, before the centre") << 0 << 160 << 0 << true;
+    QTest::newRow("mirrored, past the centre") << 0 << 140 << 1 << true;
+    QTest::newRow("mirrored, beyond all") << 0 << -50 << 2 << true;
+    QTest::newRow("mirrored, back to the first") << 2 << 900 << 0 << true;
 }
 
 void tst_tabdragout::reorderTarget()
@@ -140,8 +148,13 @@ void tst_tabdragout::reorderTarget()
     QFETCH(int, from);
     QFETCH(int, x);
     QFETCH(int, to);
-    const QList<QRect> tabs{{0, 0, 100, 20}, {100, 0, 100, 20}, {200, 0, 100, 20}};
-    QCOMPARE(ZelTabDragRules::reorderTarget(tabs, from, x), to);
+    QFETCH(bool, mirrored);
+    QList<QRect> tabs{{0, 0, 100, 20}, {100, 0, 100, 20}, {200, 0, 100, 20}};
+    if (mirrored)
+        std::reverse(tabs.begin(), tabs.end());
+    QCOMPARE(
+        ZelTabDragRules::reorderTarget(tabs, from, x, mirrored ? Qt::RightToLeft : Qt::LeftToRight),
+        to);
 }
 
 void tst_tabdragout::tabBarsHaveTheirSizes()
@@ -300,6 +313,56 @@ void tst_tabdragout::nearDragDoesNothing()
     QVERIFY(!QGuiApplication::overrideCursor());
     UserInput::move(bar, window.tabCenter(0) + QPoint(0, 300));
     QCOMPARE(window.order(), QStringLiteral("ABC"));
+}
+
+void tst_tabdragout::clickFocusesPage()
+{
+    Window window;
+    QList<QLineEdit *> fields;
+    for (int i = 0; i < 3; ++i)
+        fields.append(new QLineEdit(window.tabs->widget(i)));
+    window.tabs->setCurrentIndex(1);
+    fields[1]->show();
+    window.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    QTest::mouseClick(window.tabs->tabBar(), Qt::LeftButton, {}, window.tabCenter(0));
+    fields[0]->show();
+    QTest::mouseClick(window.tabs->tabBar(), Qt::LeftButton, {}, window.tabCenter(1));
+    QCOMPARE(QApplication::focusWidget(), fields[1]);
+    // A drag that tears out leaves the focus.
+    UserInput::drag(window.tabs->tabBar(), window.tabCenter(2),
+                    window.tabCenter(2) + QPoint(0, 250));
+    QCOMPARE(window.order(), QStringLiteral("AB"));
+    QVERIFY(QApplication::focusWidget() != fields[0]);
+}
+
+void tst_tabdragout::menuMovesTabs()
+{
+    Window window;
+    ZelTextIconTabBar *bar = window.tabs->decoratedTabBar();
+    const auto run = [bar](int tab, const QString &text) {
+        const std::unique_ptr<QMenu> menu(bar->createContextMenu(tab));
+        for (QAction *action : menu->actions()) {
+            if (action->text() == text) {
+                const bool isOn = action->isEnabled();
+                action->trigger();
+                return isOn;
+            }
+        }
+        return false;
+    };
+    QVERIFY(run(0, QStringLiteral("Move Tab Right")));
+    QCOMPARE(window.order(), QStringLiteral("BAC"));
+    QVERIFY(!run(0, QStringLiteral("Move Tab Left")));
+    window.tabs->setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(run(0, QStringLiteral("Move Tab Left")));
+    QCOMPARE(window.order(), QStringLiteral("ABC"));
+    QVERIFY(run(2, QStringLiteral("Dock Right")));
+    QCOMPARE(window.dockWidgetArea(window.tabs->getChildren().constFirst()),
+             Qt::RightDockWidgetArea);
+    QVERIFY(run(1, QStringLiteral("Tear Out")));
+    QCOMPARE(window.order(), QStringLiteral("A"));
+    QVERIFY(!run(0, QStringLiteral("Tear Out")));
 }
 
 void tst_tabdragout::menuTearsOutAndPutsBack()

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -55,7 +56,15 @@ ZelDockWidget::ZelDockWidget(const QString &title, const QString &objectName, bo
     d_->screen = screen();
 }
 
-ZelDockWidget::~ZelDockWidget() = default;
+ZelDockWidget::~ZelDockWidget()
+{
+    if (QWidget::mouseGrabber() == this)
+        return;
+    // What Qt keeps of a press that has become no drag yet goes with a release only.
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    forceEvent(&release);
+}
 
 void ZelDockWidget::buildContents()
 {

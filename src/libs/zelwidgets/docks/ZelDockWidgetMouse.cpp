@@ -35,7 +35,7 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
         break;
     case QEvent::Enter:
         // No move follows where the pointer comes back to the point that it had left.
-        if (isFloating() && QGuiApplication::mouseButtons() == Qt::NoButton)
+        if (isFloating() && d_->resizeState == 0)
             adjustCursor(
                 resizeStateAt(static_cast<QEnterEvent *>(event)->globalPosition().toPoint()));
         break;

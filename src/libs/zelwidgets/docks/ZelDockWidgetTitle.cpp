@@ -1,6 +1,7 @@
 #include "ZelDockWidgetTitle.h"
 
 #include "ZelToolButton.h"
+#include "docks/ZelDockAccessible.h"
 #include "docks/ZelDocking.h"
 #include "theme/ZelStyleIcon.h"
 
@@ -62,6 +63,7 @@ ZelDockWidgetTitle::ZelDockWidgetTitle(bool showDockButton, QWidget *parent)
     : QWidget(parent)
     , d_(std::make_unique<ZelDockWidgetTitlePrivate>(this, showDockButton))
 {
+    ZelDockAccessible::installFactory();
     setObjectName(QStringLiteral("ZelDockWidgetTitle"));
     connect(d_->close, &QToolButton::clicked, this, &ZelDockWidgetTitle::closeClicked);
     connect(d_->floating, &QToolButton::clicked, this, &ZelDockWidgetTitle::toggleFloating);

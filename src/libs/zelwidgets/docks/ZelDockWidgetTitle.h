@@ -19,6 +19,8 @@ public:
 
     QString groupName() const;
     QString headerTitle() const;
+    /// The header title, else the dock's window title, as it is painted.
+    QString shownTitle() const;
     void setGroupName(const QString &name);
     /// Is shown in the place of the dock's window title; an empty one shows the window title.
     void setHeaderTitle(const QString &title);
@@ -47,7 +49,6 @@ protected:
 
 private:
     void showButtons();
-    QString shownTitle() const;
 
     std::unique_ptr<class ZelDockWidgetTitlePrivate> d_;
 };
