@@ -89,19 +89,21 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
     return 0;
 }
 
-/// As the user does.
-void chooseWorkSpace(DeskWindow *desk, const QString &id)
+QImage grabWorkSpace(DeskWindow *desk, const QString &id)
 {
+    // Nobody is there to confirm that a workspace is to be as it was.
+    const ZelMessageBox::Mode mode = ZelMessageBox::getMode();
+    ZelMessageBox::setMode(ZelMessageBox::NoGui);
+    desk->resize(deskSize);
     QMenu *menu = desk->ribbon()->workSpaces()->menu();
     Q_EMIT menu->aboutToShow();
     for (QAction *action : menu->actions()) {
-        if (action->data().toString() == id)
-            return action->trigger();
+        if (action->data().toString() == id) {
+            action->trigger();
+            break;
+        }
     }
-}
-
-QImage grabDesk(DeskWindow *desk)
-{
+    ZelMessageBox::setMode(mode);
     settle();
     desk->viewport()->takePicture();
     settle();
@@ -112,17 +114,13 @@ QImage grabDesk(DeskWindow *desk)
 int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
                          const QStringList &themes)
 {
-    // Nobody is there to confirm that a workspace is to be as it was.
-    ZelMessageBox::setMode(ZelMessageBox::NoGui);
-    desk->resize(deskSize);
     desk->show();
     for (const QString &theme : themes) {
         application->setTheme(theme);
         for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
-            chooseWorkSpace(desk, workSpace.id);
             const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
             const QString file = QDir(folder).filePath(name);
-            if (!grabDesk(desk).save(file)) {
+            if (!grabWorkSpace(desk, workSpace.id).save(file)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }
