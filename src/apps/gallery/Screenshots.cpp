@@ -108,6 +108,9 @@ QImage grabWorkSpace(DeskWindow *desk, const QString &id)
     desk->viewport()->takePicture();
     settle();
     desk->log()->clear();
+    if (QWidget *focus = desk->focusWidget())
+        focus->clearFocus();
+    settle();
     return desk->grab().toImage();
 }
 
