@@ -89,7 +89,7 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
     return 0;
 }
 
-QImage grabWorkSpace(DeskWindow *desk, const QString &id)
+void chooseWorkSpace(DeskWindow *desk, const QString &id)
 {
     // Nobody is there to confirm that a workspace is to be as it was.
     const ZelMessageBox::Mode mode = ZelMessageBox::getMode();
@@ -104,6 +104,11 @@ QImage grabWorkSpace(DeskWindow *desk, const QString &id)
         }
     }
     ZelMessageBox::setMode(mode);
+    settle();
+}
+
+QImage grabDesk(DeskWindow *desk)
+{
     settle();
     desk->viewport()->takePicture();
     settle();
@@ -123,7 +128,8 @@ int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, cons
         for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
             const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
             const QString file = QDir(folder).filePath(name);
-            if (!grabWorkSpace(desk, workSpace.id).save(file)) {
+            chooseWorkSpace(desk, workSpace.id);
+            if (!grabDesk(desk).save(file)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }
