@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QTabWidget>
 
-WorkSpaceWindow::WorkSpaceWindow()
+WorkSpaceWindow::WorkSpaceWindow(bool isShown)
 {
     setAnimated(false);
     auto *central = new QWidget;
@@ -33,7 +33,7 @@ WorkSpaceWindow::WorkSpaceWindow()
     toolBar->setIconSizeMode(ZelToolBar::MediumIcons);
     addToolBar(toolBar);
     setGeometry(200, 100, 1200, 800);
-    show();
+    setVisible(isShown);
 }
 
 QStringList WorkSpaceWindow::order(const QTabWidget *tabs)

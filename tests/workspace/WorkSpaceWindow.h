@@ -12,7 +12,7 @@
 class WorkSpaceWindow : public QMainWindow
 {
 public:
-    WorkSpaceWindow();
+    explicit WorkSpaceWindow(bool isShown = true);
 
     /// The object names of the tabs in their order.
     static QStringList order(const QTabWidget *tabs);

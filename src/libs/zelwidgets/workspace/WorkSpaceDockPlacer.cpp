@@ -50,18 +50,6 @@ WorkSpaceDockPlacer::~WorkSpaceDockPlacer()
     release();
 }
 
-QRect WorkSpaceDockPlacer::placeOf(const QMainWindow *window, QDockWidget *dock)
-{
-    const QRect place = dock->geometry();
-    if (dock->isFloating() || window->rect().intersects(place))
-        return place;
-    for (const QDockWidget *other : window->tabifiedDockWidgets(dock)) {
-        if (other->isVisible() && window->rect().intersects(other->geometry()))
-            return other->geometry();
-    }
-    return place;
-}
-
 void WorkSpaceDockPlacer::add(QDockWidget *dock, const QRect &rect)
 {
     if (!rect.isEmpty())

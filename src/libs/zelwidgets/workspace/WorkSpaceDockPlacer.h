@@ -19,10 +19,6 @@ public:
     WorkSpaceDockPlacer(const WorkSpaceDockPlacer &) = delete;
     WorkSpaceDockPlacer &operator=(const WorkSpaceDockPlacer &) = delete;
 
-    /// Where the dock can be seen, as its geometry() tells it. A dock behind others in a group of
-    /// tabs lies out of sight, in a size that it had some time: its place is that of the group.
-    static QRect placeOf(const QMainWindow *window, QDockWidget *dock);
-
     /// Empty rectangles are left out.
     void add(QDockWidget *dock, const QRect &rect);
     /// Puts floating docks there and fixes their sizes. Those that are docked get the width fixed

@@ -1,12 +1,13 @@
 #include "WorkSpaceInformation.h"
 
-#include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
 #include "docks/ZelTextIconTabWidget.h"
-#include "workspace/WorkSpaceDockPlacer.h"
+#include "workspace/WorkSpaceDockPlaces.h"
+
+#include <ZelCore/ZelSettings>
 
 #include <QDebug>
 #include <QGuiApplication>
@@ -14,6 +15,8 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -21,10 +24,11 @@ namespace {
 bool readSwitch(const QString &key, bool fallback)
 {
     ZelSettings settings(QStringLiteral("WorkSpaces"));
-    const bool value = storedValue(settings, key, fallback);
-    if (settings.value(key) != QVariant(value))
-        settings.setValue(key, value);
-    return value;
+    const QVariant stored = settings.value(key);
+    if (stored.metaType() == QMetaType::fromType<bool>())
+        return stored.toBool();
+    settings.setValue(key, fallback);
+    return fallback;
 }
 
 qint16 screenIndex(QWidget *widget)
@@ -40,12 +44,33 @@ QStringList pageNames(const QTabWidget *tabs)
     return names;
 }
 
+/// Looks at widgets only, of which there are fewer than children.
+void addTabWidgets(const QWidget *widget, QList<QTabWidget *> &found)
+{
+    for (QObject *child : widget->children()) {
+        if (!child->isWidgetType())
+            continue;
+        if (auto *tabs = qobject_cast<QTabWidget *>(child))
+            found.append(tabs);
+        addTabWidgets(static_cast<QWidget *>(child), found);
+    }
+}
+
 /// The order of children changes whenever one of them becomes a window.
 template <typename Dock, typename Name>
-void sortByName(QList<Dock *> &docks, Name name)
+QList<Dock *> sortedByName(const QList<Dock *> &docks, Name name)
 {
-    std::stable_sort(docks.begin(), docks.end(),
-                     [&](Dock *a, Dock *b) { return name(a) < name(b); });
+    std::vector<std::pair<QString, Dock *>> named;
+    named.reserve(size_t(docks.size()));
+    for (Dock *dock : docks)
+        named.emplace_back(name(dock), dock);
+    std::stable_sort(named.begin(), named.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    QList<Dock *> sorted;
+    sorted.reserve(docks.size());
+    for (const auto &[key, dock] : named)
+        sorted.append(dock);
+    return sorted;
 }
 
 } // namespace
@@ -70,20 +95,21 @@ QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
     QList<ZelDockWidgetFromTab *> docks = library_->getChildren();
     if (project_ != library_)
         docks += project_->getChildren();
-    sortByName(docks, [](ZelDockWidget *dock) { return dock->contentsWidget()->objectName(); });
-    return docks;
+    return sortedByName(docks,
+                        [](ZelDockWidget *dock) { return dock->contentsWidget()->objectName(); });
 }
 
 QList<QTabWidget *> WorkSpaceInformation::nestedTabWidgets() const
 {
-    QList<QTabWidget *> all = library_->findChildren<QTabWidget *>();
+    QList<QTabWidget *> all;
+    addTabWidgets(library_, all);
     if (project_ != library_)
-        all += project_->findChildren<QTabWidget *>();
+        addTabWidgets(project_, all);
     for (const ZelDockWidgetFromTab *dock : tornOutDocks()) {
         if (auto *page = qobject_cast<QTabWidget *>(dock->page()))
             all.append(page);
         if (dock->page())
-            all += dock->page()->findChildren<QTabWidget *>();
+            addTabWidgets(dock->page(), all);
     }
     return all;
 }
@@ -106,11 +132,12 @@ void WorkSpaceInformation::getDataFromCurrentState()
 
 void WorkSpaceInformation::captureTornOut()
 {
+    WorkSpaceDockPlaces places(window_);
     for (ZelDockWidgetFromTab *dock : tornOutDocks()) {
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
         record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
-                                                     : WorkSpaceDockPlacer::placeOf(window_, dock));
+                                                     : places.of(dock));
         record_.tornOutScreens.append(screenIndex(dock));
     }
 }
@@ -151,13 +178,15 @@ void WorkSpaceInformation::captureNestedTabs()
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
-    QList<ZelDockWidget *> docks = zelDocksOf<ZelDockWidget>(window_);
-    sortByName(docks, [](ZelDockWidget *dock) { return dock->objectName(); });
-    for (ZelDockWidget *dock : std::as_const(docks)) {
+    const QList<ZelDockWidget *> docks =
+        sortedByName(zelDocksOf<ZelDockWidget>(window_),
+                     [](const ZelDockWidget *dock) { return dock->objectName(); });
+    WorkSpaceDockPlaces places(window_);
+    for (ZelDockWidget *dock : docks) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;
         record_.dockNames.append(dock->objectName());
-        record_.dockRects.append(WorkSpaceDockPlacer::placeOf(window_, dock));
+        record_.dockRects.append(places.of(dock));
         record_.dockScreens.append(screenIndex(dock));
     }
     for (const QScreen *screen : QGuiApplication::screens())

@@ -1,0 +1,27 @@
+#include "WorkSpaceDockPlaces.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+
+WorkSpaceDockPlaces::WorkSpaceDockPlaces(const QMainWindow *window)
+    : window_(window)
+{}
+
+QRect WorkSpaceDockPlaces::of(QDockWidget *dock)
+{
+    const QRect place = dock->geometry();
+    if (dock->isFloating() || window_->rect().intersects(place))
+        return place;
+    const auto known = behind_.constFind(dock);
+    if (known != behind_.constEnd())
+        return *known;
+    const QList<QDockWidget *> group = window_->tabifiedDockWidgets(dock);
+    for (const QDockWidget *front : group) {
+        if (!front->isVisible() || !window_->rect().intersects(front->geometry()))
+            continue;
+        for (const QDockWidget *other : group)
+            behind_.insert(other, front->geometry());
+        return front->geometry();
+    }
+    return place;
+}
