@@ -4,7 +4,10 @@
 #include "GalleryWindow.h"
 #include "PageCatalog.h"
 #include "Screenshots.h"
+#include "desk/DeskWindow.h"
 
+#include <ZelWidgets/WorkSpaceHandler>
+#include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelMenu>
 
 #include <QDir>
@@ -22,6 +25,9 @@ private Q_SLOTS:
 
 private:
     QString freshPictures(const QString &theme) const;
+    void comparePages(GalleryApplication *application, const QString &light, const QString &dark);
+    void compareWorkSpaces(GalleryApplication *application, const QString &light);
+    static bool isPicture(const QImage &picture, const QString &fresh, const QString &name);
     int countDifferences(GalleryWindow *window, const QString &theme, const QString &fresh) const;
 };
 
@@ -37,21 +43,26 @@ QString GallerySwitchTest::freshPictures(const QString &theme) const
     return finished ? target : QString();
 }
 
+bool GallerySwitchTest::isPicture(const QImage &picture, const QString &fresh, const QString &name)
+{
+    const QImage expected = QImage(fresh + u'/' + name).convertToFormat(QImage::Format_RGB32);
+    const QImage actual = picture.convertToFormat(QImage::Format_RGB32);
+    if (!expected.isNull() && expected == actual)
+        return true;
+    const QString kept = QDir::current().filePath(QStringLiteral("differs-") + name);
+    actual.save(kept);
+    expected.save(kept + QStringLiteral("-fresh.png"));
+    qInfo() << "differs from a fresh start:" << kept;
+    return false;
+}
+
 int GallerySwitchTest::countDifferences(GalleryWindow *window, const QString &theme,
                                         const QString &fresh) const
 {
     int differing = 0;
     for (int i = 0; i < pageCatalog().size(); ++i) {
         const QString name = pageCatalog()[i].id + u'-' + theme.toLower() + QStringLiteral(".png");
-        const QImage expected = QImage(fresh + u'/' + name).convertToFormat(QImage::Format_RGB32);
-        const QImage actual = grabPage(window, i).convertToFormat(QImage::Format_RGB32);
-        if (expected.isNull() || expected != actual) {
-            ++differing;
-            const QString kept = QDir::current().filePath(QStringLiteral("differs-") + name);
-            actual.save(kept);
-            expected.save(kept + QStringLiteral("-fresh.png"));
-            qInfo() << "differs from a fresh start:" << kept;
-        }
+        differing += isPicture(grabPage(window, i), fresh, name) ? 0 : 1;
     }
     return differing;
 }
@@ -65,19 +76,42 @@ void GallerySwitchTest::everyPageLooksAsInAFreshStart()
 
     QApplication::setCursorFlashTime(0);
     GalleryApplication application(QStringLiteral("Dark"));
-    GalleryWindow window(&application);
+    comparePages(&application, light, dark);
+    compareWorkSpaces(&application, light);
+}
+
+void GallerySwitchTest::comparePages(GalleryApplication *application, const QString &light,
+                                     const QString &dark)
+{
+    GalleryWindow window(application);
     window.setLogVisible(false);
     window.show();
     // All pages have been seen before the switch, and all but one are hidden during it.
     window.createAllPages();
 
-    application.setTheme(QStringLiteral("Light"));
+    application->setTheme(QStringLiteral("Light"));
     QCOMPARE(countDifferences(&window, QStringLiteral("Light"), light), 0);
-    application.setTheme(QStringLiteral("Dark"));
+    application->setTheme(QStringLiteral("Dark"));
     QCOMPARE(countDifferences(&window, QStringLiteral("Dark"), dark), 0);
     // The second time visible widgets get no style event any more.
-    application.setTheme(QStringLiteral("Light"));
+    application->setTheme(QStringLiteral("Light"));
     QCOMPARE(countDifferences(&window, QStringLiteral("Light"), light), 0);
+}
+
+void GallerySwitchTest::compareWorkSpaces(GalleryApplication *application, const QString &light)
+{
+    DeskWindow desk(application);
+    desk.show();
+    for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
+        application->setTheme(QStringLiteral("Dark"));
+        chooseWorkSpace(&desk, workSpace.id);
+        application->setTheme(QStringLiteral("Light"));
+        // Statistics are never the same.
+        if (!desk.dock("StatisticsDock")->isHidden())
+            continue;
+        const QString name = workSpace.id + QStringLiteral("-light.png");
+        QVERIFY2(isPicture(grabDesk(&desk), light, name), qPrintable(name));
+    }
 }
 
 void GallerySwitchTest::aMenuThatWasOpenInTheSwitchOpensInTheNewTheme()

@@ -89,15 +89,22 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
     return 0;
 }
 
-/// As the user does.
 void chooseWorkSpace(DeskWindow *desk, const QString &id)
 {
+    // Nobody is there to confirm that a workspace is to be as it was.
+    const ZelMessageBox::Mode mode = ZelMessageBox::getMode();
+    ZelMessageBox::setMode(ZelMessageBox::NoGui);
+    desk->resize(deskSize);
     QMenu *menu = desk->ribbon()->workSpaces()->menu();
     Q_EMIT menu->aboutToShow();
     for (QAction *action : menu->actions()) {
-        if (action->data().toString() == id)
-            return action->trigger();
+        if (action->data().toString() == id) {
+            action->trigger();
+            break;
+        }
     }
+    ZelMessageBox::setMode(mode);
+    settle();
 }
 
 QImage grabDesk(DeskWindow *desk)
@@ -106,22 +113,22 @@ QImage grabDesk(DeskWindow *desk)
     desk->viewport()->takePicture();
     settle();
     desk->log()->clear();
+    if (QWidget *focus = desk->focusWidget())
+        focus->clearFocus();
+    settle();
     return desk->grab().toImage();
 }
 
 int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
                          const QStringList &themes)
 {
-    // Nobody is there to confirm that a workspace is to be as it was.
-    ZelMessageBox::setMode(ZelMessageBox::NoGui);
-    desk->resize(deskSize);
     desk->show();
     for (const QString &theme : themes) {
         application->setTheme(theme);
         for (const DefaultWorkSpaceInfo &workSpace : WorkSpaceHandler::getDefaultWorkSpaces()) {
-            chooseWorkSpace(desk, workSpace.id);
             const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
             const QString file = QDir(folder).filePath(name);
+            chooseWorkSpace(desk, workSpace.id);
             if (!grabDesk(desk).save(file)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;

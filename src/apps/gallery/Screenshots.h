@@ -15,6 +15,10 @@ QImage grabPage(GalleryWindow *window, int index);
 int writeScreenshots(GalleryApplication *application, GalleryWindow *window, const QString &folder,
                      const QStringList &themes);
 
-/// The same for the factory workspaces of the desk; their files are <id>-<theme>.png.
+/// Chooses the workspace as the user does, in a window of the size of the pictures.
+void chooseWorkSpace(DeskWindow *desk, const QString &id);
+/// The window's picture with an empty log.
+QImage grabDesk(DeskWindow *desk);
+/// Writes pictures of the factory workspaces likewise; their files are <id>-<theme>.png.
 int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, const QString &folder,
                          const QStringList &themes);

@@ -30,8 +30,11 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 
 namespace {
+
+constexpr QSize wantedSize(1600, 1000);
 
 ZelSettings windowSettings()
 {
@@ -297,7 +300,7 @@ void DeskWindow::savePicture()
 
 void DeskWindow::restoreWindow()
 {
-    resize(1600, 1000);
+    resize(wantedSize.boundedTo(screen()->availableSize()));
     restoreGeometry(windowSettings().value(QStringLiteral("geometry")).toByteArray());
 }
 
