@@ -70,6 +70,18 @@ QByteArray ofVersion(WorkSpaceRecord record, char version)
     return bytes;
 }
 
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
+
 } // namespace
 
 class tst_workspace_handler : public TestCase
@@ -94,6 +106,7 @@ private Q_SLOTS:
     void widgetsMayDie_data();
     void widgetsMayDie();
     void restoreInRestoreIsRefused();
+    void paintsOnce();
     void animationsAreBlocked();
     void pagesGetTheirFirstOrderAndCleanNames();
     void dockingIsTakenAndGivenBack();
@@ -371,6 +384,32 @@ void tst_workspace_handler::restoreInRestoreIsRefused()
     QTimer::singleShot(0, &window, [&] { inner = restore(window, data); });
     QVERIFY(restore(window, data));
     QVERIFY(!inner);
+}
+
+void tst_workspace_handler::paintsOnce()
+{
+    WorkSpaceWindow window;
+    QCoreApplication::processEvents();
+    const QByteArray plain = capture(window);
+    arrange(window);
+    const QByteArray changed = capture(window);
+    PaintCounter central(window.centralWidget());
+    PaintCounter dock(window.docks[0]);
+    for (const QByteArray &data : {plain, changed}) {
+        central.count = 0;
+        dock.count = 0;
+        // What is still to be painted must not get lost.
+        window.update();
+        QVERIFY(restore(window, data));
+        QCoreApplication::processEvents();
+        QVERIFY(central.count >= 1 && dock.count >= 1);
+        QVERIFY2(central.count <= 2, qPrintable(QString::number(central.count)));
+        central.count = 0;
+        dock.count = 0;
+        window.centralWidget()->update();
+        window.docks[0]->update();
+        QTRY_VERIFY(central.count > 0 && dock.count > 0);
+    }
 }
 
 void tst_workspace_handler::animationsAreBlocked()

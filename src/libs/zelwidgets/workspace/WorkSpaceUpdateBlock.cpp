@@ -1,5 +1,7 @@
 #include "WorkSpaceUpdateBlock.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -9,6 +11,18 @@ namespace {
 bool isSeen(const QMainWindow *window)
 {
     return window->windowHandle() && window->windowHandle()->isExposed();
+}
+
+} // namespace
+
+namespace {
+
+/// Qt waits for ever for an update that was requested before and came while updates were off: no
+/// later one is requested. Doing it by hand ends that.
+void paintNow(QWidget *window)
+{
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window, &request);
 }
 
 } // namespace
@@ -24,12 +38,20 @@ WorkSpaceUpdateBlock::~WorkSpaceUpdateBlock()
 {
     if (!window_)
         return;
-    window_->setUpdatesEnabled(true);
     // What became a window of its own in the meantime took the block along.
+    QList<QPointer<QWidget>> blocked;
     for (QObject *child : window_->children()) {
         auto *widget = qobject_cast<QWidget *>(child);
         if (widget && widget->isWindow() && !widget->updatesEnabled() &&
             !widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+            blocked.append(widget);
+    }
+    window_->setUpdatesEnabled(true);
+    paintNow(window_);
+    for (const QPointer<QWidget> &widget : std::as_const(blocked)) {
+        if (widget)
             widget->setUpdatesEnabled(true);
+        if (widget)
+            paintNow(widget);
     }
 }
