@@ -53,11 +53,11 @@ void ZelDockPreview::tell(const QRect &place, const QString &message)
 void ZelDockPreview::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QColor colour = palette().color(QPalette::Highlight);
     painter.setOpacity(placeOpacity);
-    painter.fillRect(place_, colour);
+    painter.fillRect(place_, palette().highlight());
     painter.setOpacity(1);
-    painter.setPen(QPen(colour, borderWidth));
+    // The highlight of a light theme may be too faint for a line.
+    painter.setPen(QPen(palette().color(QPalette::WindowText), borderWidth));
     painter.drawRect(place_.adjusted(1, 1, -1, -1));
 
     const QRect room = rect().adjusted(textMargin, textMargin, -textMargin, -textMargin);
