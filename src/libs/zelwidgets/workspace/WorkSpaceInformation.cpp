@@ -31,9 +31,12 @@ bool readSwitch(const QString &key, bool fallback)
     return fallback;
 }
 
+/// A window that was never shown knows its screen by its place only.
 qint16 screenIndex(QWidget *widget)
 {
-    return qint16(QGuiApplication::screens().indexOf(widgetScreen(widget)));
+    QScreen *screen =
+        widget->isWindow() ? QGuiApplication::screenAt(widget->geometry().center()) : nullptr;
+    return qint16(QGuiApplication::screens().indexOf(screen ? screen : widgetScreen(widget)));
 }
 
 QStringList pageNames(const QTabWidget *tabs)

@@ -123,4 +123,6 @@ void WorkSpaceInformation::settle()
     for (QToolBar *bar : window_->findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly))
         bar->layout()->activate();
     window_->layout()->activate();
+    // Or all would be painted once more when they come.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
