@@ -13,7 +13,6 @@
 #include <ZelWidgets/ZelTextIconTabWidget>
 
 #include <QDebug>
-#include <QTimer>
 
 namespace {
 
@@ -51,6 +50,4 @@ void DeskStart::restore(DeskWindow *window)
     window->followStoredSwitches();
     window->ribbon()->workSpaces()->updateChangeMark();
     window->autosave()->setEnabled(true);
-    // A restore holds painting back; on X11 a window that comes up meanwhile may stay black.
-    QTimer::singleShot(0, window, qOverload<>(&QWidget::repaint));
 }
