@@ -6,7 +6,9 @@
 
 #include <memory>
 
+class QKeyEvent;
 class QMainWindow;
+class QPoint;
 
 /// Docks panels by keyboard. Ctrl+M, or the key that the user gave to "if.nDockingMode", on a dock
 /// or on a page of a ZelTextIconTabWidget in dock mode begins it; the window then shows and speaks
@@ -49,7 +51,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    void press(class QKeyEvent *event);
+    void press(QKeyEvent *event);
     void choose(const QPoint &step);
     void moveWindow(const QPoint &step);
     void sizeWindow(const QPoint &step);

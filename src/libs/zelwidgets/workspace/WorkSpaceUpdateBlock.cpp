@@ -3,17 +3,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QWidget>
-#include <QWindow>
-
-namespace {
-
-/// What comes up for the first time while it is blocked would stay empty.
-bool isSeen(const QMainWindow *window)
-{
-    return window->windowHandle() && window->windowHandle()->isExposed();
-}
-
-} // namespace
 
 namespace {
 
@@ -28,7 +17,7 @@ void paintNow(QWidget *window)
 } // namespace
 
 WorkSpaceUpdateBlock::WorkSpaceUpdateBlock(QMainWindow *window)
-    : window_(window->updatesEnabled() && isSeen(window) ? window : nullptr)
+    : window_(window->updatesEnabled() ? window : nullptr)
 {
     if (window_)
         window_->setUpdatesEnabled(false);
