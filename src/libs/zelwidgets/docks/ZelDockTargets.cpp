@@ -241,13 +241,23 @@ QRect ZelDockTargets::area() const
             return {subject_.tabs()->mapTo(window_, QPoint(0, 0)), subject_.tabs()->size()};
         return middle;
     case Place::Floating:
-        return middle.marginsRemoved(
-            QMargins(middle.width() / sideShare, middle.height() / sideShare,
-                     middle.width() / sideShare, middle.height() / sideShare));
+        return floatingArea(middle);
     case Place::Side:
         break;
     }
     return stripOf(middle, target.area);
+}
+
+/// As large as it is now, at the middle.
+QRect ZelDockTargets::floatingArea(const QRect &middle) const
+{
+    const QWidget *panel = subject_.dock();
+    if (!panel)
+        panel = subject_.tabs();
+    const QSize size = panel ? panel->size() : middle.size() / 2;
+    QRect area(QPoint(), size.boundedTo(window_->size()));
+    area.moveCenter(middle.center());
+    return area;
 }
 
 QDockWidget *ZelDockTargets::apply()
@@ -260,14 +270,18 @@ QDockWidget *ZelDockTargets::apply()
             tornOut->forceRestoreInView();
         return nullptr;
     }
+    const bool isPresent = isPresentPlace();
+    const QRect place = area();
     const QPointer<QDockWidget> dock(subject_.takeOut());
-    if (!dock || isPresentPlace())
+    if (!dock || isPresent)
         return dock;
     if (target.place == Place::Floating) {
         dock->setFloating(true);
         dock->show();
         if (dock && target.screen)
             centerWidgetOnScreen(dock, target.screen);
+        else if (dock && window_ && ZelDocking::hasGlobalPositions())
+            dock->setGeometry(place.translated(window_->mapToGlobal(QPoint())));
     } else {
         insert(dock);
     }

@@ -56,6 +56,7 @@ private:
     QList<ZelDockTarget> windows() const;
     ZelDockTarget findPresent() const;
     void add(const QList<ZelDockTarget> &column);
+    QRect floatingArea(const QRect &middle) const;
     void insert(QDockWidget *dock);
 
     QPointer<QMainWindow> window_;
