@@ -225,8 +225,9 @@ QString ZelDockTargets::text() const
 QRect ZelDockTargets::area() const
 {
     const ZelDockTarget &target = current();
-    if (isPresentPlace() && subject_.dock() && !subject_.isFloating())
-        return subject_.dock()->geometry();
+    if (isPresentPlace() && subject_.dock())
+        return {window_->mapFromGlobal(subject_.dock()->mapToGlobal(QPoint())),
+                subject_.dock()->size()};
     const QWidget *central = window_->centralWidget();
     const QRect middle = central ? central->geometry() : window_->rect();
     const QRect neighbour = target.neighbour ? target.neighbour->geometry() : middle;
