@@ -95,6 +95,7 @@ private Q_SLOTS:
             QStringLiteral(":/res/icon_themes/dark_theme.json"));
     }
     void restoresArrangement();
+    void capturesTakeNoNumbers();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -145,6 +146,31 @@ void tst_workspace_handler::restoresArrangement()
     second.show();
     QCoreApplication::processEvents();
     QCOMPARE(capture(second), changed);
+}
+
+void tst_workspace_handler::capturesTakeNoNumbers()
+{
+    WorkSpaceWindow window;
+    ZelDockWidgetFromTab *dock = window.library->changeTab2Window(1);
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    dock->setFloating(false);
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const QByteArray docked = capture(window);
+    const ZelSettings settings(dock->page()->objectName() + QLatin1String("DockWdg"));
+    dock->setFloating(true);
+    dock->move(300, 200);
+    const QVariant number = settings.value(QStringLiteral("windowSeq"));
+    QVERIFY(number.toUInt() > 0);
+    for (const int x : {310, 320, 330}) {
+        capture(window);
+        dock->move(x, 200);
+    }
+    QCOMPARE(settings.value(QStringLiteral("windowSeq")), number);
+
+    QVERIFY(restore(window, docked));
+    QCOMPARE(capture(window), docked);
+    QCOMPARE(settings.value(QStringLiteral("windowSeq")), number);
 }
 
 void tst_workspace_handler::olderVersions_data()

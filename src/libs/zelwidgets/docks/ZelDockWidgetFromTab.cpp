@@ -45,7 +45,6 @@ ZelTextIconTabWidget *ZelDockWidgetFromTab::tabWidget() const
 void ZelDockWidgetFromTab::assignStableName()
 {
     setObjectName(ZelTornOutName::stable(page_));
-    firstMove_ = true;
 }
 
 void ZelDockWidgetFromTab::setVisible(bool visible)
