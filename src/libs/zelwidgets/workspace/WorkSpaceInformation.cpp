@@ -1,11 +1,11 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockPlaces.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
 #include "docks/ZelTextIconTabWidget.h"
-#include "workspace/WorkSpaceDockPlaces.h"
 
 #include <ZelCore/ZelSettings>
 
@@ -135,7 +135,7 @@ void WorkSpaceInformation::getDataFromCurrentState()
 
 void WorkSpaceInformation::captureTornOut()
 {
-    WorkSpaceDockPlaces places(window_);
+    ZelDockPlaces places(window_);
     for (ZelDockWidgetFromTab *dock : tornOutDocks()) {
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
@@ -184,7 +184,7 @@ void WorkSpaceInformation::captureDocks()
     const QList<ZelDockWidget *> docks =
         sortedByName(zelDocksOf<ZelDockWidget>(window_),
                      [](const ZelDockWidget *dock) { return dock->objectName(); });
-    WorkSpaceDockPlaces places(window_);
+    ZelDockPlaces places(window_);
     for (ZelDockWidget *dock : docks) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;

@@ -1,13 +1,13 @@
-#include "WorkSpaceDockPlaces.h"
+#include "ZelDockPlaces.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
 
-WorkSpaceDockPlaces::WorkSpaceDockPlaces(const QMainWindow *window)
+ZelDockPlaces::ZelDockPlaces(const QMainWindow *window)
     : window_(window)
 {}
 
-QRect WorkSpaceDockPlaces::of(QDockWidget *dock)
+QRect ZelDockPlaces::of(QDockWidget *dock)
 {
     const QRect place = dock->geometry();
     if (dock->isFloating() || window_->rect().intersects(place))
