@@ -96,6 +96,7 @@ private Q_SLOTS:
     }
     void restoresArrangement();
     void capturesTakeNoNumbers();
+    void placesOfPagesThatWentBackAreForgotten();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -171,6 +172,40 @@ void tst_workspace_handler::capturesTakeNoNumbers()
     QVERIFY(restore(window, docked));
     QCOMPARE(capture(window), docked);
     QCOMPARE(settings.value(QStringLiteral("windowSeq")), number);
+}
+
+void tst_workspace_handler::placesOfPagesThatWentBackAreForgotten()
+{
+    WorkSpaceWindow window;
+    QWidget *page = window.library->widget(1);
+    const auto dockPage = [&window, page](Qt::DockWidgetArea area) {
+        ZelDockWidgetFromTab *dock =
+            window.library->changeTab2Window(window.library->indexOf(page));
+        window.addDockWidget(area, dock);
+        dock->setFloating(false);
+        ZelDockHold::release(&window);
+        QCoreApplication::processEvents();
+        return dock;
+    };
+    ZelDockWidgetFromTab *dock = dockPage(Qt::LeftDockWidgetArea);
+    window.tabifyDockWidget(window.docks[0], dock);
+    window.tabifyDockWidget(dock, window.docks[2]);
+    QCoreApplication::processEvents();
+    capture(window);
+    dock->forceRestoreInView();
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const QByteArray back = capture(window);
+    QVERIFY(restore(window, back));
+    QCOMPARE(capture(window), back);
+    QCOMPARE(window.tabifiedDockWidgets(window.docks[0]), {window.docks[2]});
+
+    dockPage(Qt::RightDockWidgetArea);
+    const QByteArray right = capture(window);
+    QVERIFY(restore(window, right));
+    QCOMPARE(capture(window), right);
+    QCOMPARE(window.dockWidgetArea(window.library->getChildren().constFirst()),
+             Qt::RightDockWidgetArea);
 }
 
 void tst_workspace_handler::olderVersions_data()

@@ -6,6 +6,7 @@
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
 #include "docks/ZelTextIconTabWidget.h"
+#include "workspace/WorkSpaceLayoutState.h"
 
 #include <ZelCore/ZelSettings>
 
@@ -155,7 +156,7 @@ void WorkSpaceInformation::captureTabs()
 
 void WorkSpaceInformation::captureWindow()
 {
-    record_.mainWindowState = window_->saveState(0);
+    record_.mainWindowState = WorkSpaceLayoutState::withoutNameless(window_->saveState(0));
     if (const QScreen *screen = widgetScreen(window_)) {
         record_.screenGeometry = screen->geometry();
         record_.screenAvailable = screen->availableGeometry();
