@@ -97,6 +97,7 @@ private Q_SLOTS:
     void restoresArrangement();
     void capturesTakeNoNumbers();
     void placesOfPagesThatWentBackAreForgotten();
+    void dockBehindOthersHasPlaceOfGroup();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -206,6 +207,21 @@ void tst_workspace_handler::placesOfPagesThatWentBackAreForgotten()
     QCOMPARE(capture(window), right);
     QCOMPARE(window.dockWidgetArea(window.library->getChildren().constFirst()),
              Qt::RightDockWidgetArea);
+}
+
+void tst_workspace_handler::dockBehindOthersHasPlaceOfGroup()
+{
+    WorkSpaceWindow window;
+    window.tabifyDockWidget(window.docks[0], window.docks[1]);
+    window.tabifyDockWidget(window.docks[1], window.docks[2]);
+    window.docks[1]->setFloating(true);
+    window.docks[1]->setGeometry(300, 250, 260, 200);
+    window.docks[2]->raise();
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const WorkSpaceRecord record = WorkSpaceRecord::read(capture(window));
+    QCOMPARE(record.dockNames.value(0), window.docks[0]->objectName());
+    QCOMPARE(record.dockRects.value(0), window.docks[2]->geometry());
 }
 
 void tst_workspace_handler::olderVersions_data()

@@ -17,7 +17,9 @@ QRect ZelDockPlaces::of(QDockWidget *dock)
         return *known;
     const QList<QDockWidget *> group = window_->tabifiedDockWidgets(dock);
     for (const QDockWidget *front : group) {
-        if (!front->isVisible() || !window_->rect().intersects(front->geometry()))
+        // One that floats keeps its place in the group.
+        const bool stands = front->isVisible() && !front->isFloating();
+        if (!stands || !window_->rect().intersects(front->geometry()))
             continue;
         for (const QDockWidget *other : group)
             behind_.insert(other, front->geometry());
