@@ -127,6 +127,7 @@ private Q_SLOTS:
     void panelGoesWhereKeysSay_data();
     void panelGoesWhereKeysSay();
     void placesAreSpoken();
+    void dockBehindOthersFloatsInSight();
     void windowIsMovedAndSized();
     void modeEndsByItself_data();
     void modeEndsByItself();
@@ -212,6 +213,30 @@ void tst_dockkeys::placesAreSpoken()
              qPrintable(first));
     QCOMPARE(told[2][0].toString(), QStringLiteral("Right side, above log"));
     QVERIFY(window.mode->message().isEmpty());
+}
+
+void tst_dockkeys::dockBehindOthersFloatsInSight()
+{
+    Window window;
+    // Out of sight is off all screens from here.
+    window.move(60, 60);
+    window.tabifyDockWidget(window.log, window.tree);
+    window.log->raise();
+    QTRY_VERIFY(!window.rect().intersects(window.tree->geometry()));
+    const QRect place(window.log->mapToGlobal(QPoint()), window.log->size());
+    Q_EMIT window.tree->zelTitleWidget()->toggleFloating();
+    QVERIFY(window.tree->isFloating());
+    QCOMPARE(window.tree->geometry(), place);
+
+    // Where it floated before it floats again.
+    const QRect chosen(300, 250, 200, 200);
+    window.tree->setGeometry(chosen);
+    window.tree->setFloating(false);
+    window.tabifyDockWidget(window.log, window.tree);
+    window.log->raise();
+    QTRY_VERIFY(!window.rect().intersects(window.tree->geometry()));
+    Q_EMIT window.tree->zelTitleWidget()->toggleFloating();
+    QCOMPARE(window.tree->geometry(), chosen);
 }
 
 void tst_dockkeys::windowIsMovedAndSized()

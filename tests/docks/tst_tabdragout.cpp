@@ -407,13 +407,13 @@ void tst_tabdragout::namesAreNumberedByMoves()
     ZelSettings settings(QStringLiteral("A/pageDockWdg"));
     Window window;
     window.tabs->widget(0)->setObjectName(QStringLiteral("A/page"));
-    ZelDockWidgetFromTab *dock = window.tabs->changeTab2Window(0);
-    dock->assignStableName();
-    QCOMPARE(dock->objectName(), QStringLiteral("ZelDWA_page_"));
+    ZelDockWidgetFromTab *dock = nullptr;
     {
         const ZelDocking::RestoreScope restore;
+        dock = window.tabs->changeTab2Window(0);
         dock->move(300, 310);
         QCOMPARE(dock->objectName(), QStringLiteral("ZelDWA_page_"));
+        dock->show();
         dock->hide();
         QVERIFY(dock->isVisible());
     }
@@ -421,7 +421,9 @@ void tst_tabdragout::namesAreNumberedByMoves()
     const uint number = settings.value(QStringLiteral("windowSeq")).toUInt();
     QVERIFY(number > 0);
     QCOMPARE(dock->objectName(), QStringLiteral("ZelDWA_page%1").arg(number));
+    dock->assignStableName();
     dock->move(340, 350);
+    QCOMPARE(dock->objectName(), QStringLiteral("ZelDWA_page_"));
     QCOMPARE(settings.value(QStringLiteral("windowSeq")).toUInt(), number);
 }
 

@@ -95,6 +95,9 @@ private Q_SLOTS:
             QStringLiteral(":/res/icon_themes/dark_theme.json"));
     }
     void restoresArrangement();
+    void capturesTakeNoNumbers();
+    void placesOfPagesThatWentBackAreForgotten();
+    void dockBehindOthersHasPlaceOfGroup();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -145,6 +148,80 @@ void tst_workspace_handler::restoresArrangement()
     second.show();
     QCoreApplication::processEvents();
     QCOMPARE(capture(second), changed);
+}
+
+void tst_workspace_handler::capturesTakeNoNumbers()
+{
+    WorkSpaceWindow window;
+    ZelDockWidgetFromTab *dock = window.library->changeTab2Window(1);
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    dock->setFloating(false);
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const QByteArray docked = capture(window);
+    const ZelSettings settings(dock->page()->objectName() + QLatin1String("DockWdg"));
+    dock->setFloating(true);
+    dock->move(300, 200);
+    const QVariant number = settings.value(QStringLiteral("windowSeq"));
+    QVERIFY(number.toUInt() > 0);
+    for (const int x : {310, 320, 330}) {
+        capture(window);
+        dock->move(x, 200);
+    }
+    QCOMPARE(settings.value(QStringLiteral("windowSeq")), number);
+
+    QVERIFY(restore(window, docked));
+    QCOMPARE(capture(window), docked);
+    QCOMPARE(settings.value(QStringLiteral("windowSeq")), number);
+}
+
+void tst_workspace_handler::placesOfPagesThatWentBackAreForgotten()
+{
+    WorkSpaceWindow window;
+    QWidget *page = window.library->widget(1);
+    const auto dockPage = [&window, page](Qt::DockWidgetArea area) {
+        ZelDockWidgetFromTab *dock =
+            window.library->changeTab2Window(window.library->indexOf(page));
+        window.addDockWidget(area, dock);
+        dock->setFloating(false);
+        ZelDockHold::release(&window);
+        QCoreApplication::processEvents();
+        return dock;
+    };
+    ZelDockWidgetFromTab *dock = dockPage(Qt::LeftDockWidgetArea);
+    window.tabifyDockWidget(window.docks[0], dock);
+    window.tabifyDockWidget(dock, window.docks[2]);
+    QCoreApplication::processEvents();
+    capture(window);
+    dock->forceRestoreInView();
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const QByteArray back = capture(window);
+    QVERIFY(restore(window, back));
+    QCOMPARE(capture(window), back);
+    QCOMPARE(window.tabifiedDockWidgets(window.docks[0]), {window.docks[2]});
+
+    dockPage(Qt::RightDockWidgetArea);
+    const QByteArray right = capture(window);
+    QVERIFY(restore(window, right));
+    QCOMPARE(capture(window), right);
+    QCOMPARE(window.dockWidgetArea(window.library->getChildren().constFirst()),
+             Qt::RightDockWidgetArea);
+}
+
+void tst_workspace_handler::dockBehindOthersHasPlaceOfGroup()
+{
+    WorkSpaceWindow window;
+    window.tabifyDockWidget(window.docks[0], window.docks[1]);
+    window.tabifyDockWidget(window.docks[1], window.docks[2]);
+    window.docks[1]->setFloating(true);
+    window.docks[1]->setGeometry(300, 250, 260, 200);
+    window.docks[2]->raise();
+    ZelDockHold::release(&window);
+    QCoreApplication::processEvents();
+    const WorkSpaceRecord record = WorkSpaceRecord::read(capture(window));
+    QCOMPARE(record.dockNames.value(0), window.docks[0]->objectName());
+    QCOMPARE(record.dockRects.value(0), window.docks[2]->geometry());
 }
 
 void tst_workspace_handler::olderVersions_data()

@@ -3,6 +3,7 @@
 #include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockHold.h"
+#include "docks/ZelDockPlaces.h"
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
@@ -233,13 +234,32 @@ void ZelDockWidget::toggleFloating()
     if (!guard)
         return;
     prepareUndockOrHide();
-    setFloating(!isFloating());
+    if (isFloating())
+        setFloating(false);
+    else
+        floatInSight();
+    if (!guard)
+        return;
     const QScreen *primary = QGuiApplication::primaryScreen();
     if (isFloating() && primary && !primary->availableGeometry().contains(pos()))
         move(x(), primary->availableGeometry().top());
     QCoreApplication::processEvents();
     if (guard)
         tellRelease();
+}
+
+/// A dock behind others in a group of tabs lies out of sight, and would float there: it floats
+/// where the group stands.
+void ZelDockWidget::floatInSight()
+{
+    const QPointer<ZelDockWidget> guard(this);
+    const QPointer<QMainWindow> window(ZelDocking::mainWindowOf(parentWidget()));
+    const QRect place = window ? ZelDockPlaces(window).of(this) : geometry();
+    const bool isBehind = place != geometry();
+    const QPoint outOfSight = mapToGlobal(QPoint());
+    setFloating(true);
+    if (guard && window && isBehind && geometry().topLeft() == outOfSight)
+        setGeometry(place.translated(window->mapToGlobal(QPoint())));
 }
 
 void ZelDockWidget::setDockWidgetArea(Qt::DockWidgetArea a)

@@ -100,6 +100,7 @@ private:
     void connectTitle();
     void prepareUndockOrHide();
     void floatInMiddle();
+    void floatInSight();
     void tellRelease();
     void focusContents();
     void endResize();

@@ -45,7 +45,6 @@ ZelTextIconTabWidget *ZelDockWidgetFromTab::tabWidget() const
 void ZelDockWidgetFromTab::assignStableName()
 {
     setObjectName(ZelTornOutName::stable(page_));
-    firstMove_ = true;
 }
 
 void ZelDockWidgetFromTab::setVisible(bool visible)
@@ -57,7 +56,16 @@ void ZelDockWidgetFromTab::setVisible(bool visible)
 
 void ZelDockWidgetFromTab::forceRestoreInView()
 {
+    const QPointer<ZelDockWidgetFromTab> guard(this);
     putPageBack();
+    if (!guard)
+        return;
+    // It may be in one of its own events, so that it goes later, but it has no place any more: a
+    // layout that is stored in the meantime knows nothing of it.
+    setObjectName(QString());
+    firstMove_ = false;
+    if (mainWindow_)
+        mainWindow_->removeDockWidget(this);
     deleteLater();
 }
 

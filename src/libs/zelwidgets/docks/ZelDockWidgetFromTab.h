@@ -31,7 +31,8 @@ public:
     void setRestoreEnabled(bool enabled) { restoreEnabled_ = enabled; }
     /// Lets the window be hidden while a workspace is restored.
     void setAllowHide(bool allow) { allowHide_ = allow; }
-    /// Takes the name again that is the same each time; the next move numbers it.
+    /// Takes the name again that is the same each time, by which a layout is stored. A window that
+    /// was numbered once keeps it from then on: only the first move of a window takes a number.
     void assignStableName();
 
     void setVisible(bool visible) override;

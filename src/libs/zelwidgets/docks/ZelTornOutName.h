@@ -8,10 +8,11 @@ class QWidget;
 /// stored.
 namespace ZelTornOutName {
 
-/// The name until the window is moved. Without a page it shows that.
+/// The name until the window is moved, and again from when its layout is stored. Without a page it
+/// shows that.
 QString stable(const QWidget *page);
-/// The name from the first move on: takes the next number of the page from the settings, so that no
-/// two windows of an installation share a name.
+/// The name from the first move on until the layout is stored: takes the next number of the page
+/// from the settings, so that no two windows of an installation share a name.
 QString takeNext(const QWidget *page);
 
 } // namespace ZelTornOutName

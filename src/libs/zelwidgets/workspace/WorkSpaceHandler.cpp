@@ -2,10 +2,10 @@
 
 #include "ZelStoredValue.h"
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockPlaces.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
 #include "workspace/WorkSpaceDefaults.h"
-#include "workspace/WorkSpaceDockPlaces.h"
 #include "workspace/WorkSpaceGeometry.h"
 #include "workspace/WorkSpaceInformation.h"
 #include "workspace/WorkSpaceNames.h"
@@ -57,7 +57,7 @@ QList<QPointer<QDockWidget>> docksOf(const QMainWindow *window)
 /// Lets the dock float where it stood, in sight.
 void floatInPlace(const QMainWindow *window, QDockWidget *dock)
 {
-    const QRect place = WorkSpaceDockPlaces(window).of(dock);
+    const QRect place = ZelDockPlaces(window).of(dock);
     const QScreen *screen = widgetScreen(dock);
     const QPointer<QDockWidget> guard(dock);
     dock->setFloating(true);

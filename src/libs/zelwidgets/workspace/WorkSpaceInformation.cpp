@@ -1,11 +1,12 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockPlaces.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
 #include "docks/ZelTextIconTabWidget.h"
-#include "workspace/WorkSpaceDockPlaces.h"
+#include "workspace/WorkSpaceLayoutState.h"
 
 #include <ZelCore/ZelSettings>
 
@@ -135,7 +136,7 @@ void WorkSpaceInformation::getDataFromCurrentState()
 
 void WorkSpaceInformation::captureTornOut()
 {
-    WorkSpaceDockPlaces places(window_);
+    ZelDockPlaces places(window_);
     for (ZelDockWidgetFromTab *dock : tornOutDocks()) {
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
@@ -155,7 +156,7 @@ void WorkSpaceInformation::captureTabs()
 
 void WorkSpaceInformation::captureWindow()
 {
-    record_.mainWindowState = window_->saveState(0);
+    record_.mainWindowState = WorkSpaceLayoutState::withoutNameless(window_->saveState(0));
     if (const QScreen *screen = widgetScreen(window_)) {
         record_.screenGeometry = screen->geometry();
         record_.screenAvailable = screen->availableGeometry();
@@ -184,7 +185,7 @@ void WorkSpaceInformation::captureDocks()
     const QList<ZelDockWidget *> docks =
         sortedByName(zelDocksOf<ZelDockWidget>(window_),
                      [](const ZelDockWidget *dock) { return dock->objectName(); });
-    WorkSpaceDockPlaces places(window_);
+    ZelDockPlaces places(window_);
     for (ZelDockWidget *dock : docks) {
         if (!dock->isVisible() || dock->objectName().isEmpty())
             continue;

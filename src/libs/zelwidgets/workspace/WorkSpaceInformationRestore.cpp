@@ -117,11 +117,6 @@ void WorkSpaceInformation::putPagesBack()
     for (const QPointer<ZelDockWidgetFromTab> &dock : docks) {
         if (dock)
             dock->forceRestoreInView();
-        if (!dock || !window_)
-            continue;
-        // It may be in one of its own events, so that it goes later, but it has no place any more.
-        dock->setObjectName(QString());
-        window_->removeDockWidget(dock);
     }
 }
 

@@ -1,13 +1,13 @@
-#include "WorkSpaceDockPlaces.h"
+#include "ZelDockPlaces.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
 
-WorkSpaceDockPlaces::WorkSpaceDockPlaces(const QMainWindow *window)
+ZelDockPlaces::ZelDockPlaces(const QMainWindow *window)
     : window_(window)
 {}
 
-QRect WorkSpaceDockPlaces::of(QDockWidget *dock)
+QRect ZelDockPlaces::of(QDockWidget *dock)
 {
     const QRect place = dock->geometry();
     if (dock->isFloating() || window_->rect().intersects(place))
@@ -17,7 +17,9 @@ QRect WorkSpaceDockPlaces::of(QDockWidget *dock)
         return *known;
     const QList<QDockWidget *> group = window_->tabifiedDockWidgets(dock);
     for (const QDockWidget *front : group) {
-        if (!front->isVisible() || !window_->rect().intersects(front->geometry()))
+        // One that floats keeps its place in the group.
+        const bool stands = front->isVisible() && !front->isFloating();
+        if (!stands || !window_->rect().intersects(front->geometry()))
             continue;
         for (const QDockWidget *other : group)
             behind_.insert(other, front->geometry());

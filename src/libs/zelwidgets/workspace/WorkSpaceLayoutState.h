@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArray>
+
+/// The bytes of QMainWindow::saveState().
+namespace WorkSpaceLayoutState {
+
+/// The state without the places of docks that have no name. Qt keeps the place of a dock that is
+/// gone, and forgets it when the state is restored if it has no name: the state before and after
+/// that would differ. What isn't understood is given back as it is.
+QByteArray withoutNameless(const QByteArray &state);
+
+} // namespace WorkSpaceLayoutState
