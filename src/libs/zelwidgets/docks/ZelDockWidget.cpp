@@ -6,6 +6,7 @@
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelStackedTabs.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -245,6 +246,7 @@ void ZelDockWidget::toggleFloating()
 void ZelDockWidget::setDockWidgetArea(Qt::DockWidgetArea a)
 {
     d_->area = a;
+    ZelStackedTabs::watch(ZelDocking::mainWindowOf(parentWidget()));
 }
 
 void ZelDockWidget::setTopLevel(bool b)
