@@ -20,6 +20,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTabBar>
 
 namespace {
 
@@ -132,6 +133,7 @@ private Q_SLOTS:
     void modeEndsByItself_data();
     void modeEndsByItself();
     void panesAreWalked();
+    void clickOnAStackFocusesTheDockInFront();
     void menusOpenByKey();
     void menuSaysWhatCannotBeDone();
     void titleIsAccessible();
@@ -335,6 +337,44 @@ void tst_dockkeys::panesAreWalked()
     window.setLayoutDirection(Qt::RightToLeft);
     QCoreApplication::processEvents();
     QCOMPARE(walker->panes().constLast(), window.tree);
+}
+
+void tst_dockkeys::clickOnAStackFocusesTheDockInFront()
+{
+    // One stack above the other, so that each bar is between two docks.
+    Window window;
+    window.setAnimated(false);
+    const auto stack = [&window](ZelDockWidget *first, const QString &name) {
+        window.tabifyDockWidget(first, window.addDock(name, Qt::RightDockWidgetArea));
+    };
+    window.splitDockWidget(
+        window.log, window.addDock(QStringLiteral("low"), Qt::RightDockWidgetArea), Qt::Vertical);
+    stack(window.log, QStringLiteral("second"));
+    stack(window.findChild<ZelDockWidget *>(QStringLiteral("low")), QStringLiteral("lower"));
+    const auto bars = [&window] {
+        QList<QTabBar *> shown =
+            window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly);
+        shown.removeIf([](const QTabBar *bar) { return !bar->isVisible() || bar->count() != 2; });
+        return shown;
+    };
+    QTRY_COMPARE(bars().size(), 2);
+    QSet<QString> clicked;
+    for (QTabBar *bar : bars()) {
+        // The last tab is in front by now.
+        for (const int tab : {1, 0, 0}) {
+            window.find(QStringLiteral("view"))->setFocus();
+            const QString name = bar->tabText(tab);
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+            QTRY_COMPARE(focusName(), name);
+            QVERIFY(window.rect().intersects(window.findChild<ZelDockWidget *>(name)->geometry()));
+            clicked.insert(name);
+        }
+        window.find(QStringLiteral("view"))->setFocus();
+        QTest::mouseClick(bar, Qt::RightButton, {}, bar->tabRect(0).center());
+        QCoreApplication::processEvents();
+        QCOMPARE(focusName(), QStringLiteral("view"));
+    }
+    QCOMPARE(clicked.size(), 4);
 }
 
 void tst_dockkeys::menusOpenByKey()

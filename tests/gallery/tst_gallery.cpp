@@ -3,9 +3,9 @@
 #include "GalleryApplication.h"
 #include "GalleryPage.h"
 #include "GalleryWindow.h"
-#include "OwnControl.h"
 #include "PageCatalog.h"
 #include "StyleFile.h"
+#include "TabWalk.h"
 #include "UserInput.h"
 
 #include <ZelWidgets/ZelStyleSheets>
@@ -19,32 +19,13 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTextEdit>
 #include <QToolButton>
 #include <QWheelEvent>
 
-#include <algorithm>
-
 namespace {
-
-/// A control that the Tab key has to stop at: of the radio buttons of a group it is the chosen one.
-bool isTabStop(const QWidget *widget)
-{
-    const auto *radio = qobject_cast<const QRadioButton *>(widget);
-    return isOwnControl(widget) && widget->isVisible() && widget->isEnabled() &&
-           (!radio || radio->isChecked());
-}
-
-bool holds(const QList<QWidget *> &reached, const QWidget *control)
-{
-    return std::any_of(reached.begin(), reached.end(), [control](const QWidget *widget) {
-        return widget == control || control->isAncestorOf(widget) ||
-               widget == control->focusProxy();
-    });
-}
 
 bool looksDifferentWithFocus(QWidget *widget)
 {
@@ -53,12 +34,6 @@ bool looksDifferentWithFocus(QWidget *widget)
     const QImage plain = widget->grab().toImage();
     widget->setFocus(Qt::TabFocusReason);
     return focused != plain;
-}
-
-QString nameOf(const QWidget *widget)
-{
-    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName() + u' ' +
-           widget->accessibleName();
 }
 
 } // namespace
@@ -83,7 +58,6 @@ private Q_SLOTS:
     void theCommandLineRefusesWhatItDoesNotKnow();
 
 private:
-    QList<QWidget *> tabOnceAround(QWidget *start) const;
     std::unique_ptr<GalleryApplication> application_;
     std::unique_ptr<GalleryWindow> window_;
 };
@@ -144,18 +118,6 @@ void GalleryTest::textAndMarksHaveEnoughContrast()
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QStringLiteral("; "))));
 }
 
-QList<QWidget *> GalleryTest::tabOnceAround(QWidget *start) const
-{
-    constexpr int mostStops = 300;
-    QList<QWidget *> reached;
-    start->setFocus(Qt::TabFocusReason);
-    do {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        reached.append(QApplication::focusWidget());
-    } while (reached.last() != start && reached.size() < mostStops);
-    return reached;
-}
-
 void GalleryTest::theTabKeyReachesEveryControlAndItsFocusIsSeen()
 {
     window_->activateWindow();
@@ -164,20 +126,20 @@ void GalleryTest::theTabKeyReachesEveryControlAndItsFocusIsSeen()
     QStringList faults;
     for (int i = 0; i < pageCatalog().size(); ++i) {
         window_->showPage(i);
-        QList<QWidget *> reached = tabOnceAround(list);
+        QList<QWidget *> reached = TabWalk::onceAround(list);
         QVERIFY2(reached.last() == list,
-                 qPrintable(pageCatalog()[i].id + u' ' + nameOf(reached.last())));
+                 qPrintable(pageCatalog()[i].id + u' ' + TabWalk::nameOf(reached.last())));
         const QWidget *area = window_->page(i)->parentWidget()->parentWidget();
         QVERIFY2(area == reached.first() || area->isAncestorOf(reached.first()),
-                 qPrintable(QStringLiteral("first: ") + nameOf(reached.first())));
+                 qPrintable(QStringLiteral("first: ") + TabWalk::nameOf(reached.first())));
         for (QWidget *widget : window_->page(i)->findChildren<QWidget *>()) {
-            if (isTabStop(widget) && !holds(reached, widget))
-                faults.append(QStringLiteral("not reached: ") + nameOf(widget));
+            if (TabWalk::isStop(widget) && !TabWalk::holds(reached, widget))
+                faults.append(QStringLiteral("not reached: ") + TabWalk::nameOf(widget));
         }
         for (QWidget *widget : std::as_const(reached)) {
             widget->setFocus(Qt::TabFocusReason);
             if (!looksDifferentWithFocus(widget))
-                faults.append(QStringLiteral("focus not seen: ") + nameOf(widget));
+                faults.append(QStringLiteral("focus not seen: ") + TabWalk::nameOf(widget));
         }
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));

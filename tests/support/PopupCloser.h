@@ -6,20 +6,23 @@
 #include <QTimer>
 
 /// Closes every menu, list and modal dialog that comes up while it lives, and counts them; other
-/// windows than the one to be kept are closed at the end.
+/// windows than those that were open before are closed at the end.
 class PopupCloser : public QTimer
 {
 public:
-    explicit PopupCloser(QWidget *kept)
-        : kept_(kept)
+    PopupCloser()
     {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->isVisible())
+                kept_.append(widget);
+        }
         callOnTimeout(this, [this] { close(); });
         start(0);
     }
     ~PopupCloser() override
     {
         for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (widget->isVisible() && widget != kept_)
+            if (widget->isVisible() && !kept_.contains(widget))
                 widget->close();
         }
     }
@@ -43,6 +46,6 @@ private:
     }
 
     int count_ = 0;
-    QPointer<QWidget> kept_;
+    QList<QPointer<QWidget>> kept_;
     QPointer<QWidget> last_;
 };

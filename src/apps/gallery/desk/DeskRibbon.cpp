@@ -10,11 +10,24 @@
 #include <ZelWidgets/ZelDockWidget>
 #include <ZelWidgets/ZelToolBar>
 
+#include <QToolButton>
+
 namespace {
 
 constexpr int nameLength = 24;
 
 } // namespace
+
+void makeButtonsReachable(const QToolBar *bar)
+{
+    for (QToolButton *button :
+         bar->findChildren<QToolButton *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (button->focusPolicy() == Qt::NoFocus)
+            button->setFocusPolicy(Qt::TabFocus);
+        if (button->objectName() == QLatin1String("qt_toolbar_ext_button"))
+            button->setAccessibleName(DeskRibbon::tr("More of %1").arg(bar->windowTitle()));
+    }
+}
 
 DeskRibbon::DeskRibbon(DeskWindow *window)
     : QToolBar(tr("Ribbon"), window)
@@ -47,8 +60,6 @@ QAction *DeskRibbon::add(const QString &id, const QString &icon, const QString &
     QAction *action = addAction(LookControls::icon(icon), text);
     action->setObjectName(QStringLiteral("Ribbon") + id);
     action->setToolTip(explanation);
-    if (QWidget *widget = widgetForAction(action))
-        widget->setFocusPolicy(Qt::TabFocus);
     return action;
 }
 
@@ -130,4 +141,5 @@ void DeskRibbon::addPanelButtons()
     QAction *tools = add(QStringLiteral("ToolBoxBtn"), QStringLiteral("settings_dropdown"),
                          tr("Tool bar"), tr("Show or hide the tool bar"));
     follow(tools, window_->mainToolBar()->toggleViewAction());
+    makeButtonsReachable(this);
 }

@@ -6,6 +6,10 @@
 class DeskWindow;
 class WorkSpaceWidgetRibbon;
 
+/// Lets the Tab key reach the buttons of a tool bar, and the one that stands for those without
+/// room.
+void makeButtonsReachable(const QToolBar *bar);
+
 /// The ribbon: workspaces, panels, studios and switches of the rendering. A workspace stores which
 /// of its buttons are visible, by their object names "Ribbon" and an id.
 class DeskRibbon : public QToolBar

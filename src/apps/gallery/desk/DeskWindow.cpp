@@ -173,6 +173,7 @@ void DeskWindow::createToolBars()
     label->setBuddy(box);
     mainToolBar_->addWidget(label);
     mainToolBar_->addWidget(box);
+    makeButtonsReachable(mainToolBar_);
     mainToolBar_->setIconSizeMode(ZelToolBar::MediumIcons);
     addToolBar(mainToolBar_);
     ribbon_->addPanelButtons();

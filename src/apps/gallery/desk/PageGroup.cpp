@@ -27,8 +27,11 @@ PageGroup::PageGroup(const PageGroupEntry &entry, QWidget *parent)
     chooser_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     chooser_->setMinimumContentsLength(leastLetters);
     pages_->setObjectName(entry.id + QStringLiteral("Stack"));
+    pages_->setAccessibleName(entry.title);
     pages_->setDocumentMode(true);
     pages_->tabBar()->hide();
+    // It would hand the focus to its hidden bar, and the Tab key would get no further.
+    pages_->setFocusPolicy(Qt::NoFocus);
     for (const QString &id : entry.pages) {
         const int index = pageIndex(id);
         const PageEntry &page = pageCatalog()[index];
@@ -36,6 +39,7 @@ PageGroup::PageGroup(const PageGroupEntry &entry, QWidget *parent)
         chooser_->addItem(LookControls::icon(page.icon), page.title);
         chooser_->setItemData(chooser_->count() - 1, page.purpose, Qt::ToolTipRole);
         auto *area = new QScrollArea(pages_);
+        area->setAccessibleName(page.title);
         area->setWidgetResizable(true);
         area->setFrameShape(QFrame::NoFrame);
         pages_->addTab(area, page.title);

@@ -7,6 +7,7 @@
 #include <ZelWidgets/ZelMenu>
 #include <ZelWidgets/ZelMouseActionSettings>
 
+#include <QAccessibleWidget>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -40,6 +41,13 @@ double dollySteps(const QPointF &way)
     return (way.x() - way.y()) * stepsPerPixel;
 }
 
+QAccessibleInterface *makeAccessible(const QString &name, QObject *object)
+{
+    const bool isOwn = name == QLatin1String(Viewport::staticMetaObject.className());
+    return isOwn ? new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Canvas)
+                 : nullptr;
+}
+
 } // namespace
 
 Viewport::Viewport(ViewScene *scene, QWidget *parent)
@@ -50,6 +58,7 @@ Viewport::Viewport(ViewScene *scene, QWidget *parent)
 {
     setObjectName(QStringLiteral("Viewport"));
     setAccessibleName(tr("Viewport"));
+    QAccessible::installFactory(makeAccessible);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     connectGestures();

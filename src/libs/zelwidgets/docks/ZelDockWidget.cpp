@@ -7,6 +7,7 @@
 #include "docks/ZelDockWidgetPrivate.h"
 #include "docks/ZelDockWidgetTitle.h"
 #include "docks/ZelDocking.h"
+#include "docks/ZelStackedTabs.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -265,6 +266,7 @@ void ZelDockWidget::floatInSight()
 void ZelDockWidget::setDockWidgetArea(Qt::DockWidgetArea a)
 {
     d_->area = a;
+    ZelStackedTabs::watch(ZelDocking::mainWindowOf(parentWidget()));
 }
 
 void ZelDockWidget::setTopLevel(bool b)

@@ -49,6 +49,10 @@ bool ZelDockWidget::eventFilter(QObject *object, QEvent *event)
         break;
     case QEvent::MouseButtonDblClick:
         break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // Contents that use a key rarely say so: it would be used again by each widget around them.
+        break;
     default:
         event->setAccepted(false);
         break;

@@ -2,6 +2,7 @@
 
 #include "ZelStoredValue.h"
 
+#include <QDockWidget>
 #include <QGuiApplication>
 #include <QMainWindow>
 
@@ -30,6 +31,12 @@ QMainWindow *mainWindowOf(QWidget *widget)
             return window;
     }
     return nullptr;
+}
+
+bool isInFront(const QDockWidget *dock)
+{
+    return dock->isVisible() &&
+           (dock->isFloating() || dock->parentWidget()->rect().intersects(dock->geometry()));
 }
 
 void suspendGroupedDragging(QMainWindow *window)

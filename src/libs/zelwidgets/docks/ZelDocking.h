@@ -1,5 +1,6 @@
 #pragma once
 
+class QDockWidget;
 class QMainWindow;
 class QWidget;
 
@@ -14,6 +15,10 @@ bool hasGlobalPositions();
 
 /// The nearest main window that the widget is in; null if there is none.
 QMainWindow *mainWindowOf(QWidget *widget);
+
+/// True for a visible dock that no other one stacked on it covers; Qt keeps covered ones outside of
+/// their window.
+bool isInFront(const QDockWidget *dock);
 
 /// Lets a drag move one dock alone, also out of a floating group that is dragged as one otherwise.
 /// Does nothing without a window.

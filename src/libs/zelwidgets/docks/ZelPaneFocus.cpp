@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -80,6 +81,12 @@ bool isIn(const QWidget *pane)
 {
     const QWidget *focus = QApplication::focusWidget();
     return pane && focus && (focus == pane || pane->isAncestorOf(focus));
+}
+
+bool isClickOnCurrent(const QTabBar *bar, const QMouseEvent *release)
+{
+    return release->button() == Qt::LeftButton && bar->currentIndex() >= 0 &&
+           bar->tabAt(release->position().toPoint()) == bar->currentIndex();
 }
 
 bool openMenuByKey(QKeyEvent *event)

@@ -3,6 +3,8 @@
 #include <functional>
 
 class QKeyEvent;
+class QMouseEvent;
+class QTabBar;
 class QWidget;
 
 /// Takes the keyboard into a part of the interface.
@@ -24,6 +26,10 @@ void enterAfterMenus(QWidget *pane);
 
 /// True if the pane, or a widget inside it, has the focus; false without a pane.
 bool isIn(const QWidget *pane);
+
+/// True for the release of the left button on the tab in front: the end of a click. A tab that was
+/// dragged away isn't under the pointer any more.
+bool isClickOnCurrent(const QTabBar *bar, const QMouseEvent *release);
 
 /// Opens the context menu of the widget with the focus if the event is Shift+F10, which not every
 /// desktop turns into the Menu key; false for other keys.

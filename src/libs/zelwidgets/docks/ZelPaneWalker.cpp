@@ -1,5 +1,6 @@
 #include "ZelPaneWalker.h"
 
+#include "docks/ZelDocking.h"
 #include "docks/ZelPaneFocus.h"
 #include "docks/ZelTabWidgetBase.h"
 #include "shortcuts/ZelAction.h"
@@ -39,12 +40,6 @@ ZelPaneFocus::Filter ownPartOf(QWidget *pane, const QList<QWidget *> &panes)
     };
 }
 
-bool isSeen(const QDockWidget *dock, const QMainWindow *window)
-{
-    // One that others cover stands outside of the window.
-    return dock->isVisible() && (dock->isFloating() || window->rect().intersects(dock->geometry()));
-}
-
 } // namespace
 
 ZelPaneWalker::ZelPaneWalker(QMainWindow *window)
@@ -74,7 +69,7 @@ QList<QWidget *> ZelPaneWalker::candidates() const
 {
     QList<QWidget *> docks;
     for (auto *dock : window_->findChildren<QDockWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (isSeen(dock, window_))
+        if (ZelDocking::isInFront(dock))
             docks.append(dock);
     }
     QList<QWidget *> panels;

@@ -183,11 +183,8 @@ void ZelTextIconTabBar::keyPressEvent(QKeyEvent *event)
 void ZelTextIconTabBar::mouseReleaseEvent(QMouseEvent *event)
 {
     QTabBar::mouseReleaseEvent(event);
-    // A click: a tab that was dragged away isn't under the pointer any more.
-    if (event->button() != Qt::LeftButton || currentIndex() < 0 ||
-        tabAt(event->position().toPoint()) != currentIndex())
-        return;
-    if (ZelTextIconTabWidget *tabs = tabWidget())
+    ZelTextIconTabWidget *tabs = tabWidget();
+    if (tabs && ZelPaneFocus::isClickOnCurrent(this, event))
         ZelPaneFocus::enter(tabs->currentWidget());
 }
 
