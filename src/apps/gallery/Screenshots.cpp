@@ -29,6 +29,8 @@ constexpr int pictureWidth = 1280;
 constexpr int leastHeight = 800;
 constexpr int mostHeight = 6000;
 constexpr QSize deskSize(1600, 1000);
+/// Little compression: what is best takes longer than to paint the pictures.
+constexpr int pngQuality = 80;
 
 void settle()
 {
@@ -79,7 +81,7 @@ int writeScreenshots(GalleryApplication *application, GalleryWindow *window, con
         for (int i = 0; i < pageCatalog().size(); ++i) {
             const QString name = pageCatalog()[i].id + u'-' + theme.toLower();
             const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
-            if (!grabPage(window, i).save(file)) {
+            if (!grabPage(window, i).save(file, "PNG", pngQuality)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }
@@ -129,7 +131,7 @@ int writeDeskScreenshots(GalleryApplication *application, DeskWindow *desk, cons
             const QString name = workSpace.id + u'-' + theme.toLower() + QStringLiteral(".png");
             const QString file = QDir(folder).filePath(name);
             chooseWorkSpace(desk, workSpace.id);
-            if (!grabDesk(desk).save(file)) {
+            if (!grabDesk(desk).save(file, "PNG", pngQuality)) {
                 qCritical() << "Can't write the picture" << file;
                 return 1;
             }
