@@ -22,6 +22,7 @@
 
 #include <cmath>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -69,6 +70,9 @@ public:
     QTimer timer;
     /// In global coordinates; a screen has places between whole ones.
     QPointF place;
+    /// Nobody has told the part of a pixel of the desktop.
+    bool isRounded = true;
+    QPointer<QScreen> screen;
     ZelScreenSample sample;
     bool isFollowing = false;
     /// Where a key has sent the cursor, short of the place by less than a pixel of the desktop.
@@ -161,27 +165,42 @@ void ZelEyeDropper::askDesktop()
 }
 
 /// For moves that no event tells of, and for pictures that change. The cursor's place is rounded,
-/// so one that is near says nothing new of a place between the pixels of the desktop.
+/// so one that is near says nothing new of a place between the pixels of the desktop. A cursor that
+/// rests where only the rounded place is known is sent there: a press takes the pixel under it,
+/// which would lie beside the marked one.
 void ZelEyeDropper::followCursor()
 {
     const QPointF cursor = QCursor::pos();
     const QPointF way = cursor - d_->place;
     const bool isNear = std::abs(way.x()) < 1 && std::abs(way.y()) < 1;
+    if (!isNear) {
+        d_->isRounded = true;
+    } else if (d_->screen && d_->screen->devicePixelRatio() != 1 && cursor == d_->place &&
+               std::exchange(d_->isRounded, false)) {
+        QCursor::setPos(ZelCursorPlace::floored(d_->place));
+    }
     follow(isNear ? d_->place : cursor);
+}
+
+/// Only a window that is on the screen can have the mouse.
+void ZelEyeDropper::holdInput()
+{
+    if (!d_->isFollowing || d_->hasMouse || !windowHandle() || !windowHandle()->isExposed())
+        return;
+    d_->hasMouse = true;
+    grabMouse();
+    grabKeyboard();
 }
 
 void ZelEyeDropper::follow(const QPointF &place)
 {
     d_->place = place;
-    // Only a window that is on the screen can have the mouse.
-    if (d_->isFollowing && !d_->hasMouse && windowHandle() && windowHandle()->isExposed()) {
-        d_->hasMouse = true;
-        grabMouse();
-        grabKeyboard();
-    }
     QScreen *screen = ZelCursorPlace::screenAt(d_->place);
+    holdInput();
     if (!screen)
         return;
+    if (screen != std::exchange(d_->screen, screen))
+        d_->isRounded = true;
     const QRect area = screen->geometry();
     const QPointF inside = d_->place - area.topLeft();
     const QRect region = ZelScreenSample::regionAround(
@@ -222,6 +241,7 @@ void ZelEyeDropper::mouseMoveEvent(QMouseEvent *event)
     if (d_->sentTo && QPointF(*d_->sentTo) == place)
         return;
     d_->sentTo.reset();
+    d_->isRounded = false;
     follow(place);
 }
 

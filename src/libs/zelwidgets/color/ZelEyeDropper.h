@@ -47,6 +47,7 @@ private:
     void stop();
     void askDesktop();
     void followCursor();
+    void holdInput();
     void follow(const QPointF &place);
     void pick();
     void select(const QColor &color);
