@@ -17,6 +17,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QToolButton>
 
 namespace {
 
@@ -91,6 +92,7 @@ private Q_SLOTS:
     void tabBarsHaveTheirSizes();
     void wheelLeavesTab();
     void pageGoesOutAndComesBack();
+    void dockButtonPutsPageBack();
     void lastTabStays();
     void dragTearsOutAndFollows();
     void escapeCancelsDrag();
@@ -221,6 +223,32 @@ void tst_tabdragout::pageGoesOutAndComesBack()
     QCOMPARE(window.tabs->currentWidget(), page);
     QVERIFY(!window.tabs->hasReorderedDialogs());
     QVERIFY(!window.tabs->hasChildrenDialogs());
+}
+
+void tst_tabdragout::dockButtonPutsPageBack()
+{
+    Window window;
+    const QPointer<ZelDockWidgetFromTab> dock = window.tabs->changeTab2Window(0);
+    const auto pressDock = [&dock] {
+        for (QToolButton *button : dock->zelTitleWidget()->findChildren<QToolButton *>()) {
+            if (button->isVisible() && button->toolTip() == QLatin1String("Dock"))
+                return button->click();
+        }
+        QFAIL("no dock button");
+    };
+    // With a place among the docks it goes there, without one among the tabs.
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    dock->setFloating(true);
+    pressDock();
+    QVERIFY(dock && !dock->isFloating());
+    QCOMPARE(window.order(), QStringLiteral("BC"));
+    window.removeDockWidget(dock);
+    dock->setFloating(true);
+    dock->show();
+    pressDock();
+    runDeferredDeletes();
+    QVERIFY(!dock);
+    QCOMPARE(window.order(), QStringLiteral("BCA"));
 }
 
 void tst_tabdragout::lastTabStays()

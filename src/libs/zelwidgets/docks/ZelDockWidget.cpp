@@ -236,7 +236,7 @@ void ZelDockWidget::toggleFloating()
         return;
     prepareUndockOrHide();
     if (isFloating())
-        setFloating(false);
+        redock();
     else
         floatInSight();
     if (!guard)
@@ -247,6 +247,11 @@ void ZelDockWidget::toggleFloating()
     QCoreApplication::processEvents();
     if (guard)
         tellRelease();
+}
+
+void ZelDockWidget::redock()
+{
+    setFloating(false);
 }
 
 /// A dock behind others in a group of tabs lies out of sight, and would float there: it floats

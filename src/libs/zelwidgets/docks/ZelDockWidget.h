@@ -77,6 +77,10 @@ protected:
     /// The edges that a point in global coordinates drags, as bits.
     int resizeStateAt(const QPoint &globalPoint) const;
 
+    /// What the title's buttons and a double click do to a floating dock; it goes back to its place
+    /// in the layout.
+    virtual void redock();
+
     bool eventFilter(QObject *object, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

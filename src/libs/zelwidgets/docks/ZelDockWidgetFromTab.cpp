@@ -86,6 +86,14 @@ void ZelDockWidgetFromTab::closeDialog()
     close();
 }
 
+void ZelDockWidgetFromTab::redock()
+{
+    if (mainWindow_ && mainWindow_->dockWidgetArea(this) != Qt::NoDockWidgetArea)
+        ZelDockWidget::redock();
+    else
+        forceRestoreInView();
+}
+
 void ZelDockWidgetFromTab::closeEvent(QCloseEvent *event)
 {
     QDockWidget::closeEvent(event);

@@ -46,6 +46,8 @@ public Q_SLOTS:
     void closeDialog();
 
 protected:
+    /// Among the tabs again, unless the window has a place among the docks.
+    void redock() override;
     void closeEvent(QCloseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
 
