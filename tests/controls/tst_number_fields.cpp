@@ -138,6 +138,7 @@ private Q_SLOTS:
     void theWheelTurnsWithControlOnly_data();
     void theWheelTurnsWithControlOnly();
     void theKeypadTypesTheLocalesPoint();
+    void aDoubleClickSelectsTheNumber();
     void theMenuResetsCopiesAndPastes();
     void assistiveTechnologyReadsAndWrites();
     void aSignalMayDoAnything();
@@ -626,6 +627,20 @@ void NumberFieldsTest::theKeypadTypesTheLocalesPoint()
     }
     QCOMPARE(number, 1.25F);
     QCOMPARE(box.value(), 1.25);
+}
+
+void NumberFieldsTest::aDoubleClickSelectsTheNumber()
+{
+    ZelDoubleSpinBox field(nullptr);
+    field.setDegreeSuffix();
+    field.setValue(12.5);
+    field.show();
+    auto *line = field.findChild<QLineEdit *>();
+    QTest::mouseDClick(line, Qt::LeftButton, {}, QPoint(8, line->height() / 2));
+    QTRY_COMPARE(line->selectedText(), field.cleanText());
+    QTest::keyClicks(line, QStringLiteral("3.75"));
+    QTest::keyClick(line, Qt::Key_Return);
+    QCOMPARE(field.value(), 3.75);
 }
 
 void NumberFieldsTest::theMenuResetsCopiesAndPastes()

@@ -2,6 +2,7 @@
 
 #include "ZelControlWheel.h"
 #include "ZelKeypadDecimal.h"
+#include "ZelNumberDoubleClick.h"
 #include "ZelNumberFieldMenu.h"
 #include "ZelNumberText.h"
 
@@ -50,6 +51,7 @@ ZelDoubleEdit::ZelDoubleEdit(QWidget *parent, double minimum, double maximum, fl
     setFixedWidth(80);
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setKeyboardTracking(false);
+    ZelNumberDoubleClick::install(this);
     rememberShown(static_cast<double>(*value_));
     connect(this, &QDoubleSpinBox::valueChanged, this, &ZelDoubleEdit::valueChangedSlot);
 }

@@ -2,6 +2,7 @@
 
 #include "ZelControlWheel.h"
 #include "ZelKeypadDecimal.h"
+#include "ZelNumberDoubleClick.h"
 #include "ZelNumberText.h"
 
 #include <QDebug>
@@ -16,6 +17,7 @@ ZelDoubleSpinBox::ZelDoubleSpinBox(QWidget *parent)
     setLocale(locale);
     setAlignment(Qt::AlignLeft);
     setKeyboardTracking(false);
+    ZelNumberDoubleClick::install(this);
     setDecimals(4);
     setMinimumWidth(50);
     setAttribute(Qt::WA_MacShowFocusRect, false);

@@ -1,6 +1,7 @@
 #include "ZelIntegerEdit.h"
 
 #include "ZelControlWheel.h"
+#include "ZelNumberDoubleClick.h"
 #include "ZelNumberFieldMenu.h"
 #include "ZelNumberText.h"
 
@@ -19,6 +20,7 @@ ZelIntegerEdit::ZelIntegerEdit(QWidget *parent, int minimum, int maximum, int *v
     setFixedWidth(80);
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     setKeyboardTracking(false);
+    ZelNumberDoubleClick::install(this);
     connect(this, &QSpinBox::valueChanged, this, &ZelIntegerEdit::valueChangedSlot);
 }
 

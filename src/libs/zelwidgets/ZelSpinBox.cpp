@@ -1,6 +1,7 @@
 #include "ZelSpinBox.h"
 
 #include "ZelControlWheel.h"
+#include "ZelNumberDoubleClick.h"
 #include "ZelNumberText.h"
 
 ZelSpinBox::ZelSpinBox(QWidget *parent)
@@ -8,6 +9,7 @@ ZelSpinBox::ZelSpinBox(QWidget *parent)
 {
     setAlignment(Qt::AlignLeft);
     setKeyboardTracking(false);
+    ZelNumberDoubleClick::install(this);
     setMinimumWidth(50);
     setFocusPolicy(Qt::StrongFocus);
 }

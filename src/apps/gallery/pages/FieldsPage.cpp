@@ -109,8 +109,9 @@ void FieldsPage::addBoundFields()
     const Columns columns(addSection(
         tr("Bound fields"),
         tr("Beside each field stands the number that it edits. The wheel scrolls the page; with "
-           "Control it turns the number, with Shift as well in large steps. The context menu "
-           "resets it. More typed decimals than are shown stay visible.")));
+           "Control it turns the number, one of decimals with Shift as well in large steps. A "
+           "double click selects the number, the context menu resets it. More typed decimals "
+           "than are shown stay visible.")));
     addNumber(columns.left, tr("Radius"), 2.5F, 0.0, 1000.0);
     addNumber(columns.left, tr("Third"), 1.0F / 3.0F, 0.0, 1.0);
     ZelDoubleEdit *zeros = addNumber(columns.left, tr("With all zeros"), 2.5F, -1000.0, 1000.0);
