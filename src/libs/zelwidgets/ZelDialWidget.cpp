@@ -3,6 +3,7 @@
 #include "ZelAccessibleValue.h"
 #include "ZelControlWheel.h"
 #include "ZelDialAngle.h"
+#include "ZelNumberDoubleClick.h"
 
 #include <QDebug>
 #include <QDial>
@@ -100,6 +101,7 @@ ZelDialWidget::ZelDialWidget(QSize const &dialSize, bool backward, QWidget *pare
     field_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     field_->setValue(0.0);
     field_->setFixedWidth(fieldWidth);
+    ZelNumberDoubleClick::install(field_);
     dial_->setAccessibleName(tr("Angle"));
     field_->setAccessibleName(tr("Angle in degrees"));
     ZelAccessibleValue::describeBy(dial_, field_);

@@ -1,6 +1,7 @@
 #include "color/ZelColorLineEdit.h"
 
 #include "ZelControlWheel.h"
+#include "ZelNumberDoubleClick.h"
 
 #include <QKeyEvent>
 
@@ -10,6 +11,7 @@ ZelColorLineEdit::ZelColorLineEdit(QWidget *parent)
     setAttribute(Qt::WA_MacShowFocusRect, false);
     setKeyboardTracking(false);
     setButtonSymbols(NoButtons);
+    ZelNumberDoubleClick::install(this);
     setFocusPolicy(Qt::StrongFocus);
 }
 
