@@ -64,8 +64,6 @@ public:
         log_.append(QLatin1String(name));
         (this->*run)();
         QCoreApplication::processEvents();
-        ZelDockHold::release(&window_);
-        QCoreApplication::processEvents();
     }
 
     int number(int below) { return random_.bounded(below); }
@@ -186,8 +184,9 @@ QString fault(WorkSpaceWindow &window)
             isSeen = isSeen || screen->geometry().intersects(dock->geometry());
         if (!isSeen)
             return dock->objectName() + QLatin1String(" off all screens");
-        if (dock->minimumWidth() == dock->maximumWidth() ||
-            dock->minimumHeight() == dock->maximumHeight())
+        const bool isFixed = dock->minimumWidth() == dock->maximumWidth() ||
+                             dock->minimumHeight() == dock->maximumHeight();
+        if (isFixed && !ZelDockHold::isPending(&window))
             return dock->objectName() + QLatin1String(" with a fixed size");
     }
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
@@ -253,6 +252,7 @@ void tst_workspace_arrangements::anyArrangementComesBack()
             continue;
         const QByteArray &wanted = stored[arranger.number(int(stored.size()))];
         QVERIFY(arranger.restore(wanted));
+        QVERIFY(!ZelDockHold::isPending(&arranger.window()));
         const QString after = fault(arranger.window());
         QVERIFY2(after.isEmpty(), qPrintable(after + arranger.log().join(u',')));
         const QByteArray found = arranger.capture();

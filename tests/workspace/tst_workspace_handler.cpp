@@ -95,6 +95,8 @@ private Q_SLOTS:
             QStringLiteral(":/res/icon_themes/dark_theme.json"));
     }
     void restoresArrangement();
+    void captureFinishesChange();
+    void restoreEndsHold();
     void capturesTakeNoNumbers();
     void placesOfPagesThatWentBackAreForgotten();
     void dockBehindOthersHasPlaceOfGroup();
@@ -148,6 +150,45 @@ void tst_workspace_handler::restoresArrangement()
     second.show();
     QCoreApplication::processEvents();
     QCOMPARE(capture(second), changed);
+}
+
+/// While a dock goes, the others are held: what is taken down is what comes of it.
+void tst_workspace_handler::captureFinishesChange()
+{
+    WorkSpaceWindow window;
+    window.docks[2]->setFixedWidth(170);
+    QCoreApplication::processEvents();
+    const QByteArray plain = capture(window);
+    window.docks[0]->setFloating(true);
+    window.docks[1]->hide();
+    QVERIFY(ZelDockHold::isPending(&window));
+    const QByteArray changed = capture(window);
+    QVERIFY(!ZelDockHold::isPending(&window));
+    QCOMPARE(window.docks[2]->maximumWidth(), 170);
+    QCOMPARE(window.docks[3]->maximumWidth(), QWIDGETSIZE_MAX);
+    QCoreApplication::processEvents();
+    QCOMPARE(capture(window), changed);
+    QVERIFY(restore(window, plain));
+    QVERIFY(restore(window, changed));
+    QCOMPARE(capture(window), changed);
+}
+
+/// The end of a hold would let go of the docks that a restore places.
+void tst_workspace_handler::restoreEndsHold()
+{
+    WorkSpaceWindow window;
+    QCoreApplication::processEvents();
+    const QByteArray plain = capture(window);
+    window.docks[1]->hide();
+    QVERIFY(ZelDockHold::isPending(&window));
+    bool isHeld = true;
+    const auto look = [&window, &isHeld] {
+        isHeld = !WorkSpaceHandler::isInWorkspaceRestore() || ZelDockHold::isPending(&window);
+    };
+    QMetaObject::invokeMethod(&window, look, Qt::QueuedConnection);
+    QVERIFY(restore(window, plain));
+    QVERIFY(!isHeld);
+    QCOMPARE(capture(window), plain);
 }
 
 void tst_workspace_handler::capturesTakeNoNumbers()

@@ -1,6 +1,7 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockHold.h"
 #include "docks/ZelDockPlaces.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
@@ -12,6 +13,7 @@
 
 #include <QDebug>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 
@@ -122,6 +124,7 @@ void WorkSpaceInformation::getDataFromCurrentState()
 {
     if (!hasWindows())
         return;
+    finishLayout();
     const char *const function = "WorkSpaceInformation::getDataFromCurrentState";
     checkStudio("at store 1", function, __LINE__);
     captureTornOut();
@@ -132,6 +135,14 @@ void WorkSpaceInformation::getDataFromCurrentState()
     captureToolBar();
     captureDocks();
     checkStudio("at store 2", function, __LINE__);
+}
+
+/// What was changed just before is taken down as it will be, not on its way there.
+void WorkSpaceInformation::finishLayout()
+{
+    ZelDockHold::end(window_);
+    if (window_->isVisible())
+        window_->layout()->activate();
 }
 
 void WorkSpaceInformation::captureTornOut()

@@ -38,6 +38,7 @@ private:
     QList<ZelDockWidgetFromTab *> tornOutDocks() const;
     QList<QTabWidget *> nestedTabWidgets() const;
 
+    void finishLayout();
     void captureTornOut();
     void captureTabs();
     void captureWindow();
