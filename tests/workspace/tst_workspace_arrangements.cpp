@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QTabBar>
 
 namespace {
 
@@ -188,6 +189,10 @@ QString fault(WorkSpaceWindow &window)
                              dock->minimumHeight() == dock->maximumHeight();
         if (isFixed && !ZelDockHold::isPending(&window))
             return dock->objectName() + QLatin1String(" with a fixed size");
+    }
+    for (const auto *bar : window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (bar->isVisible() && window.rect().intersects(bar->geometry()) && bar->count() < 2)
+            return QStringLiteral("tab bar of %1 docks").arg(bar->count());
     }
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
         if (widget->isVisible() && !widget->updatesEnabled())

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QStyle>
+#include <QTabBar>
 #include <QTimer>
 
 #include <memory>
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void capturesTakeNoNumbers();
     void placesOfPagesThatWentBackAreForgotten();
     void dockBehindOthersHasPlaceOfGroup();
+    void emptyTabBarsAreHidden();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -263,6 +265,33 @@ void tst_workspace_handler::dockBehindOthersHasPlaceOfGroup()
     const WorkSpaceRecord record = WorkSpaceRecord::read(capture(window));
     QCOMPARE(record.dockNames.value(0), window.docks[0]->objectName());
     QCOMPARE(record.dockRects.value(0), window.docks[2]->geometry());
+}
+
+/// Of two bars that are made for one group, one is left over.
+void tst_workspace_handler::emptyTabBarsAreHidden()
+{
+    WorkSpaceWindow window;
+    QCoreApplication::processEvents();
+    const auto tabCounts = [&window] {
+        QCoreApplication::processEvents();
+        QList<int> counts;
+        for (auto *bar : window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (bar->isVisible())
+                counts.append(bar->count());
+        }
+        return counts;
+    };
+    window.tabifyDockWidget(window.docks[1], window.docks[3]);
+    QCOMPARE(tabCounts(), QList<int>{2});
+    window.tabifyDockWidget(window.docks[0], window.docks[2]);
+    QCOMPARE(tabCounts(), (QList<int>{2, 2}));
+    const QByteArray tabbed = capture(window);
+    window.addDockWidget(Qt::LeftDockWidgetArea, window.docks[2]);
+    window.addDockWidget(Qt::RightDockWidgetArea, window.docks[3]);
+    QCOMPARE(tabCounts(), QList<int>());
+    // They come back with their tabs.
+    QVERIFY(restore(window, tabbed));
+    QCOMPARE(tabCounts(), (QList<int>{2, 2}));
 }
 
 void tst_workspace_handler::olderVersions_data()
