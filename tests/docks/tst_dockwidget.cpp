@@ -89,6 +89,7 @@ private Q_SLOTS:
     void edgeShowsCursorOnFrame();
     void floaterSnapsToScreen();
     void hidingLeavesNeighbourAsItIs();
+    void heldDockOfDyingWindowIsReleased();
     void closesTwiceAndOpensOnce();
     void floatsInMiddleWhenForced();
     void contentsAreReplaced();
@@ -300,6 +301,24 @@ void tst_dockwidget::hidingLeavesNeighbourAsItIs()
     const ZelDocking::RestoreScope restore;
     left->hide();
     QCOMPARE(other->maximumWidth(), QWIDGETSIZE_MAX);
+}
+
+/// Docks that float together lose their window when but one of them is left in it.
+void tst_dockwidget::heldDockOfDyingWindowIsReleased()
+{
+    Window window;
+    auto *group = new QWidget(&window, Qt::Window);
+    auto *leaving = new ZelDockWidget(QStringLiteral("A"), QStringLiteral("A"), true, group);
+    auto *staying = new ZelDockWidget(QStringLiteral("B"), QStringLiteral("B"), true, group);
+    window.show();
+    leaving->show();
+    staying->show();
+    group->show();
+    leaving->hide();
+    QCOMPARE(staying->minimumHeight(), staying->maximumHeight());
+    staying->setParent(&window);
+    delete group;
+    QTRY_COMPARE(staying->maximumHeight(), QWIDGETSIZE_MAX);
 }
 
 void tst_dockwidget::closesTwiceAndOpensOnce()

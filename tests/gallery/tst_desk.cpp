@@ -23,6 +23,7 @@
 
 #include <QMenu>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 #include <memory>
 
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void aStartAfterACrashLeavesItOut();
     void dockingIsSwitchedOffAndOn();
     void theRibbonDoesWhatItSays();
+    void theTreeShowsAndTakesWhatIsSelected();
     void tornOutPagesComeAlongAndGoWithTheWindow();
 
 private:
@@ -295,6 +297,23 @@ void DeskTest::theRibbonDoesWhatItSays()
     QVERIFY(!pictures.isEmpty());
     QCOMPARE(pictures.last().first().value<ViewportRenderer::Report>().quality,
              ViewportRenderer::Quality::Full);
+}
+
+void DeskTest::theTreeShowsAndTakesWhatIsSelected()
+{
+    auto *tree = desk_->findChild<QTreeWidget *>(QStringLiteral("SceneTree"));
+    QVERIFY(tree);
+    const QList<int> wanted{1, 3};
+    desk_->scene()->select(wanted);
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+        QCOMPARE(tree->topLevelItem(i)->isSelected(), wanted.contains(i));
+    QCOMPARE(tree->currentItem(), tree->topLevelItem(1));
+    QTest::keyClick(tree, Qt::Key_Down);
+    QCOMPARE(desk_->scene()->selection(), QList<int>{2});
+    QTest::keyClick(tree, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(desk_->scene()->selection(), (QList<int>{2, 3}));
+    QTest::keyClick(tree, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(desk_->scene()->selection(), (QList<int>{2, 3, 4}));
 }
 
 void DeskTest::tornOutPagesComeAlongAndGoWithTheWindow()

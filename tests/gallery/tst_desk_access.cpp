@@ -104,6 +104,25 @@ QStringList notReached(QWidget *window, QWidget *start)
     return faults;
 }
 
+/// The stops of a tab widget that the Tab key doesn't come to on its way from the bar of the tabs
+/// to the first stop outside.
+QStringList notBehindBar(ZelTextIconTabWidget *tabs)
+{
+    QList<QWidget *> reached = TabWalk::onceAround(tabs->tabBar());
+    const auto outside = std::find_if(reached.begin(), reached.end(), [tabs](QWidget *widget) {
+        return !tabs->isAncestorOf(widget);
+    });
+    reached.erase(outside, reached.end());
+    reached.append(tabs->tabBar());
+    QStringList missing;
+    for (const QWidget *widget : tabs->findChildren<QWidget *>()) {
+        if (widget->window() == tabs->window() && TabWalk::isStop(widget) &&
+            !TabWalk::holds(reached, widget))
+            missing.append(TabWalk::nameOf(widget));
+    }
+    return missing;
+}
+
 } // namespace
 
 /// The gallery as a docked application, for those who use no mouse or see no screen.
@@ -118,6 +137,7 @@ private Q_SLOTS:
     void partsOfTheDeskTellWhatTheyAre();
     void theControlsAroundThePagesDoWhatTheyOffer();
     void theTabKeyComesRound();
+    void aPageIsReachedBehindItsTab();
 
 private:
     void arrange();
@@ -245,6 +265,25 @@ void DeskAccessTest::theTabKeyComesRound()
         faults += notReached(window, window == desk_.get() ? desk_->viewport() : nullptr);
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+/// Whenever it was made, or came back.
+void DeskAccessTest::aPageIsReachedBehindItsTab()
+{
+    ZelTextIconTabWidget *library = desk_->library();
+    const auto faults = [library] {
+        return notBehindBar(library).join(u'\n');
+    };
+    QCOMPARE(faults(), QString());
+    for (const char *late : {"texts", "fields", "headers"}) {
+        desk_->showPage(pageIndex(QLatin1String(late)));
+        QCOMPARE(faults(), QString());
+    }
+    const QPointer<QWidget> page = tornOut_->page();
+    tornOut_->forceRestoreInView();
+    QCOMPARE(library->currentWidget(), page);
+    QCOMPARE(faults(), QString());
+    QCOMPARE(notReached(desk_.get(), desk_->viewport()).join(u'\n'), QString());
 }
 
 ZEL_TEST_MAIN(DeskAccessTest)

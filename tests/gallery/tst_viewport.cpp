@@ -55,6 +55,7 @@ private Q_SLOTS:
     void shadowsAndLightFollowTheStudio();
     void aDragShowsDraftsAndEndsInTheFinestPicture();
     void theMouseDoesWhatTheTableSays();
+    void aMarqueeSelectsWhatItTouches();
     void theKeyboardDoesItToo();
 
 private:
@@ -273,6 +274,43 @@ void ViewportTest::theMouseDoesWhatTheTableSays()
     view_->takePicture();
     QTest::mouseClick(view_.get(), Qt::LeftButton, Qt::ControlModifier | Qt::AltModifier, place);
     QVERIFY(!scene_->object(ball).isVisible);
+}
+
+void ViewportTest::aMarqueeSelectsWhatItTouches()
+{
+    const auto placeOf = [this](const char *name) {
+        const QVector3D middle = scene_->object(indexOf(*scene_, name)).mesh.center();
+        return onScreen(view_->camera(), middle, view_->size()).toPoint();
+    };
+    QStringList said;
+    connect(view_.get(), &Viewport::said, this, [&said](const QString &entry) { said += entry; });
+    const OrbitCamera before = view_->camera();
+    const QPoint ball = placeOf("Ball");
+    const QPoint small = placeOf("Small ball");
+    const QRect around = QRect(ball, small).normalized().adjusted(-2, -2, 2, 2);
+    UserInput::press(view_.get(), around.bottomRight(), Qt::ShiftModifier);
+    UserInput::move(view_.get(), around.center(), Qt::ShiftModifier);
+    const QImage plain = view_->takePicture();
+    QVERIFY(view_->grab(around).toImage().pixel(1, 1) != plain.pixel(around.topLeft()));
+    UserInput::move(view_.get(), around.topLeft(), Qt::ShiftModifier);
+    UserInput::release(view_.get(), around.topLeft(), Qt::ShiftModifier);
+    QVERIFY(scene_->selection().contains(indexOf(*scene_, "Ball")));
+    QVERIFY(scene_->selection().contains(indexOf(*scene_, "Small ball")));
+    QVERIFY(!scene_->selection().contains(indexOf(*scene_, "Cone")));
+    QVERIFY(view_->takePicture() != plain);
+    QCOMPARE(said.size(), 1);
+    QVERIFY(said.first().contains(QLatin1String("Ball, Small ball")));
+    QCOMPARE(view_->camera(), before);
+
+    // Escape leaves what was selected, an empty rectangle takes it back.
+    const QList<int> selected = scene_->selection();
+    UserInput::press(view_.get(), QPoint(0, 0), Qt::ShiftModifier);
+    UserInput::move(view_.get(), QPoint(30, 5), Qt::ShiftModifier);
+    QTest::keyClick(view_.get(), Qt::Key_Escape);
+    UserInput::release(view_.get(), QPoint(30, 5), Qt::ShiftModifier);
+    QCOMPARE(scene_->selection(), selected);
+    UserInput::drag(view_.get(), QPoint(0, 0), QPoint(30, 5), Qt::ShiftModifier);
+    QCOMPARE(scene_->selection(), QList<int>());
 }
 
 void ViewportTest::theKeyboardDoesItToo()

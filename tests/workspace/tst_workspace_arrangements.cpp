@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QTabBar>
 
 namespace {
 
@@ -63,8 +64,6 @@ public:
         const auto &[name, run] = steps[size_t(number(int(steps.size())))];
         log_.append(QLatin1String(name));
         (this->*run)();
-        QCoreApplication::processEvents();
-        ZelDockHold::release(&window_);
         QCoreApplication::processEvents();
     }
 
@@ -186,9 +185,14 @@ QString fault(WorkSpaceWindow &window)
             isSeen = isSeen || screen->geometry().intersects(dock->geometry());
         if (!isSeen)
             return dock->objectName() + QLatin1String(" off all screens");
-        if (dock->minimumWidth() == dock->maximumWidth() ||
-            dock->minimumHeight() == dock->maximumHeight())
+        const bool isFixed = dock->minimumWidth() == dock->maximumWidth() ||
+                             dock->minimumHeight() == dock->maximumHeight();
+        if (isFixed && !ZelDockHold::isPending(&window))
             return dock->objectName() + QLatin1String(" with a fixed size");
+    }
+    for (const auto *bar : window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (bar->isVisible() && window.rect().intersects(bar->geometry()) && bar->count() < 2)
+            return QStringLiteral("tab bar of %1 docks").arg(bar->count());
     }
     for (const QWidget *widget : window.findChildren<QWidget *>()) {
         if (widget->isVisible() && !widget->updatesEnabled())
@@ -253,6 +257,7 @@ void tst_workspace_arrangements::anyArrangementComesBack()
             continue;
         const QByteArray &wanted = stored[arranger.number(int(stored.size()))];
         QVERIFY(arranger.restore(wanted));
+        QVERIFY(!ZelDockHold::isPending(&arranger.window()));
         const QString after = fault(arranger.window());
         QVERIFY2(after.isEmpty(), qPrintable(after + arranger.log().join(u',')));
         const QByteArray found = arranger.capture();

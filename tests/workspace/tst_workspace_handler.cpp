@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QStyle>
+#include <QTabBar>
 #include <QTimer>
 
 #include <memory>
@@ -95,9 +96,12 @@ private Q_SLOTS:
             QStringLiteral(":/res/icon_themes/dark_theme.json"));
     }
     void restoresArrangement();
+    void captureFinishesChange();
+    void restoreEndsHold();
     void capturesTakeNoNumbers();
     void placesOfPagesThatWentBackAreForgotten();
     void dockBehindOthersHasPlaceOfGroup();
+    void emptyTabBarsAreHidden();
     void olderVersions_data();
     void olderVersions();
     void missingScreens();
@@ -148,6 +152,45 @@ void tst_workspace_handler::restoresArrangement()
     second.show();
     QCoreApplication::processEvents();
     QCOMPARE(capture(second), changed);
+}
+
+/// While a dock goes, the others are held: what is taken down is what comes of it.
+void tst_workspace_handler::captureFinishesChange()
+{
+    WorkSpaceWindow window;
+    window.docks[2]->setFixedWidth(170);
+    QCoreApplication::processEvents();
+    const QByteArray plain = capture(window);
+    window.docks[0]->setFloating(true);
+    window.docks[1]->hide();
+    QVERIFY(ZelDockHold::isPending(&window));
+    const QByteArray changed = capture(window);
+    QVERIFY(!ZelDockHold::isPending(&window));
+    QCOMPARE(window.docks[2]->maximumWidth(), 170);
+    QCOMPARE(window.docks[3]->maximumWidth(), QWIDGETSIZE_MAX);
+    QCoreApplication::processEvents();
+    QCOMPARE(capture(window), changed);
+    QVERIFY(restore(window, plain));
+    QVERIFY(restore(window, changed));
+    QCOMPARE(capture(window), changed);
+}
+
+/// The end of a hold would let go of the docks that a restore places.
+void tst_workspace_handler::restoreEndsHold()
+{
+    WorkSpaceWindow window;
+    QCoreApplication::processEvents();
+    const QByteArray plain = capture(window);
+    window.docks[1]->hide();
+    QVERIFY(ZelDockHold::isPending(&window));
+    bool isHeld = true;
+    const auto look = [&window, &isHeld] {
+        isHeld = !WorkSpaceHandler::isInWorkspaceRestore() || ZelDockHold::isPending(&window);
+    };
+    QMetaObject::invokeMethod(&window, look, Qt::QueuedConnection);
+    QVERIFY(restore(window, plain));
+    QVERIFY(!isHeld);
+    QCOMPARE(capture(window), plain);
 }
 
 void tst_workspace_handler::capturesTakeNoNumbers()
@@ -222,6 +265,33 @@ void tst_workspace_handler::dockBehindOthersHasPlaceOfGroup()
     const WorkSpaceRecord record = WorkSpaceRecord::read(capture(window));
     QCOMPARE(record.dockNames.value(0), window.docks[0]->objectName());
     QCOMPARE(record.dockRects.value(0), window.docks[2]->geometry());
+}
+
+/// Of two bars that are made for one group, one is left over.
+void tst_workspace_handler::emptyTabBarsAreHidden()
+{
+    WorkSpaceWindow window;
+    QCoreApplication::processEvents();
+    const auto tabCounts = [&window] {
+        QCoreApplication::processEvents();
+        QList<int> counts;
+        for (auto *bar : window.findChildren<QTabBar *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (bar->isVisible())
+                counts.append(bar->count());
+        }
+        return counts;
+    };
+    window.tabifyDockWidget(window.docks[1], window.docks[3]);
+    QCOMPARE(tabCounts(), QList<int>{2});
+    window.tabifyDockWidget(window.docks[0], window.docks[2]);
+    QCOMPARE(tabCounts(), (QList<int>{2, 2}));
+    const QByteArray tabbed = capture(window);
+    window.addDockWidget(Qt::LeftDockWidgetArea, window.docks[2]);
+    window.addDockWidget(Qt::RightDockWidgetArea, window.docks[3]);
+    QCOMPARE(tabCounts(), QList<int>());
+    // They come back with their tabs.
+    QVERIFY(restore(window, tabbed));
+    QCOMPARE(tabCounts(), (QList<int>{2, 2}));
 }
 
 void tst_workspace_handler::olderVersions_data()

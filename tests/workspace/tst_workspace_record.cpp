@@ -1,7 +1,9 @@
 #include "TestCase.h"
 
 #include "workspace/WorkSpaceExchange.h"
+#include "workspace/WorkSpaceReader.h"
 #include "workspace/WorkSpaceRecord.h"
+#include "workspace/WorkSpaceWriter.h"
 
 #include <QFile>
 
@@ -30,6 +32,7 @@ class TestWorkspaceRecord : public TestCase
 private Q_SLOTS:
     void readsTheStoredForm();
     void writesTheStoredForm();
+    void writesWhatAStreamWrites();
     void readsOtherVersions_data();
     void readsOtherVersions();
     void survivesEveryCut();
@@ -75,6 +78,36 @@ void TestWorkspaceRecord::readsTheStoredForm()
     expected.screens = {QRect(0, 0, 1920, 1080), QRect(1920, 0, 1280, 1024)};
     expected.toolBarMode = 2;
     QVERIFY(record == expected);
+}
+
+void TestWorkspaceRecord::writesWhatAStreamWrites()
+{
+    const QStringList texts{QString(), QStringLiteral(""), QStringLiteral("plain"),
+                            QString::fromUtf8("\xc3\xa4\xe2\x82\xac\xf0\x9f\x98\x80"),
+                            QString(9000, u'x')};
+    const QList<QByteArray> blobs{QByteArray(), QByteArray(""), QByteArray("\0\xff", 2),
+                                  QByteArray(20000, 'y')};
+    const QList<qint16> shorts{-32768, -1, 0, 258};
+    const QList<qint32> numbers{-2147483647 - 1, -1, 0, 66051};
+    const QList<QRect> rects{QRect(), QRect(-3, 4, 500, 6), QRect(QPoint(1, 1), QPoint(1, 1))};
+    WorkSpaceWriter writer;
+    QByteArray wanted;
+    QDataStream stream(&wanted, QIODevice::WriteOnly);
+    stream.setVersion(workSpaceStreamVersion);
+    const auto write = [&](const auto &value) {
+        writer.write(value);
+        stream << value;
+    };
+    write(texts);
+    write(blobs);
+    write(shorts);
+    write(numbers);
+    write(rects);
+    write(true);
+    write(-0.125);
+    write(QSize(-1, 70000));
+    write(QStringList());
+    QCOMPARE(writer.take(), wanted);
 }
 
 void TestWorkspaceRecord::writesTheStoredForm()

@@ -2,6 +2,7 @@
 
 #include "workspace/WorkSpaceComparison.h"
 #include "workspace/WorkSpaceGeometry.h"
+#include "workspace/WorkSpaceNameChooser.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRecord.h"
 #include "workspace/WorkSpaceRibbonRules.h"
@@ -32,6 +33,7 @@ private Q_SLOTS:
     void proposesNames();
     void namesImports_data();
     void namesImports();
+    void namesManyImports();
     void filtersNames();
     void placesOnScreens_data();
     void placesOnScreens();
@@ -108,6 +110,26 @@ void TestWorkspaceRules::namesImports()
                             QStringLiteral("Shot 10"), QStringLiteral("Shot 11"),
                             QStringLiteral("exactly twenty chars")};
     QTEST(WorkSpaceNames::importedName(name, taken), "expected");
+}
+
+/// Each is the one that it would be if it came alone, whatever was given out before.
+void TestWorkspaceRules::namesManyImports()
+{
+    QStringList ids = words("wsid2 wsid4");
+    QStringList names = words("Shot Shot3 Shot7");
+    WorkSpaceNameChooser chooser(ids, names);
+    const QStringList wanted =
+        words("Shot Shot2 Shot Take Shot3 Take1 Shot7 Take Shot Shot2 Take1") +
+        QStringList(9, QStringLiteral("exactly twenty chars")) +
+        QStringList(12, QStringLiteral("exactly twenty char1"));
+    for (const QString &name : wanted) {
+        ids.append(WorkSpaceNames::freeId(ids));
+        QCOMPARE(chooser.takeId(), ids.last());
+        names.append(WorkSpaceNames::importedName(name, names));
+        QCOMPARE(chooser.takeName(name), names.last());
+    }
+    QCOMPARE(names.mid(3, 4), words("Shot1 Shot2 Shot4 Take"));
+    QCOMPARE(QSet<QString>(names.begin(), names.end()).size(), names.size());
 }
 
 void TestWorkspaceRules::filtersNames()

@@ -23,6 +23,7 @@
 #include <ZelWidgets/ZelDockingMode>
 #include <ZelWidgets/ZelPaneWalker>
 #include <ZelWidgets/ZelShortcutHandler>
+#include <ZelWidgets/ZelTabKeyOrder>
 #include <ZelWidgets/ZelTextIconTabWidget>
 #include <ZelWidgets/ZelToolBar>
 
@@ -31,6 +32,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScreen>
+#include <QTabBar>
 
 namespace {
 
@@ -97,6 +99,7 @@ void DeskWindow::createPanels()
     project_ = createTabs(QStringLiteral("ProjectWindow"), tr("Project"));
     scenePage_ = new ScenePage(scene_, viewport_);
     project_->addTab(scenePage_, LookControls::icon(QStringLiteral("home")), tr("Scene"));
+    placeInTabOrder(scenePage_, project_->tabBar());
     log_ = new LogPanel(this);
     log_->hideTitle();
     addGroups();
@@ -108,6 +111,7 @@ void DeskWindow::addGroups()
         auto *group = new PageGroup(entry);
         ZelTextIconTabWidget *tabs = entry.isInProject ? project_ : library_;
         tabs->addTab(group, LookControls::icon(entry.icon), entry.title);
+        placeInTabOrder(group, tabs->tabBar());
         connect(group, &PageGroup::logged, log_, &LogPanel::addSignal);
         groups_.append(group);
     }

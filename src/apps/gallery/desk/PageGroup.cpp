@@ -5,6 +5,8 @@
 #include "PageCatalog.h"
 #include "PageGroups.h"
 
+#include <ZelWidgets/ZelTabKeyOrder>
+
 #include <QComboBox>
 #include <QScrollArea>
 #include <QTabBar>
@@ -89,6 +91,8 @@ void PageGroup::createShown()
     connect(page, &GalleryPage::logged, this, &PageGroup::logged);
     page->leaveWheelToScrolling();
     area->setWidget(page);
+    // It comes later than what stands behind it.
+    placeInTabOrder(page, area);
 }
 
 void PageGroup::showEvent(QShowEvent *event)

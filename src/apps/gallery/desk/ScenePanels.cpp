@@ -46,6 +46,7 @@ SceneTreePanel::SceneTreePanel(ViewScene *scene, QWidget *parent)
     setHeaderLabels({tr("Object"), tr("Triangles")});
     setRootIsDecorated(false);
     setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -55,10 +56,7 @@ SceneTreePanel::SceneTreePanel(ViewScene *scene, QWidget *parent)
         if (scene_)
             scene_->setVisible(indexOfTopLevelItem(item), item->checkState(0) == Qt::Checked);
     });
-    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *item) {
-        if (scene_)
-            scene_->select(indexOfTopLevelItem(item));
-    });
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &SceneTreePanel::selectChosen);
 }
 
 void SceneTreePanel::fill()
@@ -80,12 +78,22 @@ void SceneTreePanel::follow()
         topLevelItem(i)->setCheckState(0, object.isVisible ? Qt::Checked : Qt::Unchecked);
         topLevelItem(i)->setData(0, Qt::DecorationRole, colorSign(object.color));
     }
-    if (scene_->selected() < 0) {
-        clearSelection();
-        setCurrentItem(nullptr);
-    } else {
-        setCurrentItem(topLevelItem(scene_->selected()));
+    const QList<int> &selection = scene_->selection();
+    if (!selection.contains(indexOfTopLevelItem(currentItem())))
+        setCurrentItem(topLevelItem(scene_->selected()), 0, QItemSelectionModel::NoUpdate);
+    for (int i = 0; i < topLevelItemCount(); ++i)
+        topLevelItem(i)->setSelected(selection.contains(i));
+}
+
+void SceneTreePanel::selectChosen()
+{
+    QList<int> chosen;
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        if (topLevelItem(i)->isSelected())
+            chosen.append(i);
     }
+    if (scene_)
+        scene_->select(chosen);
 }
 
 StudioPanel::StudioPanel(ViewScene *scene, QWidget *parent)

@@ -23,6 +23,7 @@ public:
 private:
     void fill();
     void follow();
+    void selectChosen();
 
     QPointer<ViewScene> scene_;
 };

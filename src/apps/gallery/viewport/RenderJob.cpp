@@ -134,7 +134,7 @@ void RenderJob::addScene(const ViewScene &scene)
             continue;
         surfaces_.push_back({Surface::Object, i, linear(object.color),
                              3 + int(std::lround(object.gloss * 4)), object.gloss,
-                             i == scene.selected()});
+                             scene.selection().contains(i)});
         addShadow(object.mesh);
         addMesh(object.mesh, int(surfaces_.size()) - 1);
     }
@@ -389,6 +389,23 @@ int RenderJob::objectAt(const QPoint &pixel) const
         return noObject;
     return std::max<int>(noObject,
                          objects_[size_t(pixel.y()) * size_t(image_.width()) + size_t(pixel.x())]);
+}
+
+QList<int> RenderJob::objectsIn(const QRect &pixels) const
+{
+    const QRect seen = pixels & image_.rect();
+    QList<int> found;
+    int last = -1;
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        for (int x = seen.left(); x <= seen.right(); ++x) {
+            const int object = objectAt({x, y});
+            if (object != last && object >= 0 && !found.contains(object))
+                found.append(object);
+            last = object;
+        }
+    }
+    std::sort(found.begin(), found.end());
+    return found;
 }
 
 std::optional<QVector3D> RenderJob::pointAt(const QPoint &pixel) const

@@ -21,7 +21,7 @@ public:
         QSize size;
         /// 2 computes four samples for a pixel.
         int samplesPerSide = 1;
-        /// Tints the selected object.
+        /// Tints the selected objects.
         QColor selection = {};
     };
 
@@ -40,6 +40,8 @@ public:
 
     /// The object that a pixel shows; -1 for the floor, the sky and pixels outside.
     int objectAt(const QPoint &pixel) const;
+    /// All objects that pixels of the rectangle show, in the order of the scene.
+    QList<int> objectsIn(const QRect &pixels) const;
     /// The point of the world that a pixel shows; nothing for the sky.
     std::optional<QVector3D> pointAt(const QPoint &pixel) const;
 

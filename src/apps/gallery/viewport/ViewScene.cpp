@@ -108,11 +108,20 @@ void ViewScene::setGloss(int object, float gloss)
 
 void ViewScene::select(int object)
 {
-    const int wanted = has(object) ? object : -1;
-    if (wanted == selected_)
+    select(QList<int>{object});
+}
+
+void ViewScene::select(const QList<int> &objects)
+{
+    QList<int> wanted;
+    for (const int object : objects) {
+        if (has(object) && !wanted.contains(object))
+            wanted.append(object);
+    }
+    if (wanted == selection_)
         return;
-    selected_ = wanted;
-    Q_EMIT selectionChanged(selected_);
+    selection_ = wanted;
+    Q_EMIT selectionChanged(selected());
     Q_EMIT changed();
 }
 

@@ -49,8 +49,10 @@ public:
     const std::vector<ViewObject> &objects() const { return objects_; }
     int triangleCount() const;
     const Mesh &floorMesh() const { return floor_; }
-    /// The selected object; -1 for none.
-    int selected() const { return selected_; }
+    /// The selected object, the first of several; -1 for none.
+    int selected() const { return selection_.value(0, -1); }
+    /// All that are selected.
+    const QList<int> &selection() const { return selection_; }
 
     int studioCount() const { return int(studios_.size()); }
     int currentStudio() const { return currentStudio_; }
@@ -64,6 +66,8 @@ public:
     void setColor(int object, const QColor &color);
     void setGloss(int object, float gloss);
     void select(int object);
+    /// Selects several in place of all.
+    void select(const QList<int> &objects);
     void showOnly(int object);
     void showAll();
     void setCurrentStudio(int index);
@@ -83,7 +87,7 @@ private:
     std::vector<Studio> studios_;
     Studio plainLight_;
     Mesh floor_;
-    int selected_ = -1;
+    QList<int> selection_;
     int currentStudio_ = 0;
     bool studiosAreOn_ = true;
 };

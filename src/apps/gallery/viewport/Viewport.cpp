@@ -24,6 +24,7 @@ constexpr double stepsPerPixel = 0.05;
 constexpr double pixelsPerNotch = 20;
 constexpr double pixelsPerKey = 15;
 constexpr int focusWidth = 2;
+constexpr float marqueeOpacity = 0.2F;
 
 /// Which way of a drag goes nearer, by the mode that comes with the camera's preset.
 double dollySteps(const QPointF &way)
@@ -77,7 +78,10 @@ void Viewport::connectGestures()
     connect(gestures_, &ViewportGestures::dragBegan, this, [this] { cameraBefore_ = camera_; });
     connect(gestures_, &ViewportGestures::dragged, this,
             [this](const QString &action, const QPointF &way) { follow(action, way, Pace::Drag); });
-    connect(gestures_, &ViewportGestures::dragEnded, this, [this] { requestPicture(Pace::Rest); });
+    connect(gestures_, &ViewportGestures::dragEnded, this, [this] {
+        selectInMarquee();
+        requestPicture(Pace::Rest);
+    });
     connect(gestures_, &ViewportGestures::clicked, this, &Viewport::click);
     connect(gestures_, &ViewportGestures::wheelTurned, this,
             [this](const QString &action, double notches) {
@@ -154,9 +158,13 @@ void Viewport::fitSelected()
 {
     if (scene_->selected() < 0)
         return fitAll();
-    const Mesh &mesh = scene_->object(scene_->selected()).mesh;
+    Mesh all;
+    for (const int object : scene_->selection()) {
+        const Mesh &mesh = scene_->object(object).mesh;
+        all.positions.insert(all.positions.end(), mesh.positions.begin(), mesh.positions.end());
+    }
     OrbitCamera camera = camera_;
-    camera.fit(mesh.center(), mesh.radius());
+    camera.fit(all.center(), all.radius());
     setCamera(camera);
 }
 
@@ -164,6 +172,8 @@ void Viewport::fitSelected()
 void Viewport::follow(const QString &action, const QPointF &way, Pace pace)
 {
     OrbitCamera camera = camera_;
+    if (action == QLatin1String("if#mouse.marquesel"))
+        return growMarquee(way);
     if (action == QLatin1String("cam#ctrl.aTumble") ||
         action == QLatin1String("cam#ctrl.aTumbleAlt"))
         camera.orbit(way * degreesPerPixel);
@@ -219,6 +229,38 @@ void Viewport::click(const QString &action, const QPoint &place)
         openMenu(mapToGlobal(place));
     else if (!applyMaterialAt(action, place))
         Q_EMIT said(tr("Viewport: no use for %1 here").arg(action));
+}
+
+QRect Viewport::marquee() const
+{
+    const QPoint corner = gestures_->pressedPlace();
+    const QPoint way = marqueeWay_.value_or(QPointF()).toPoint();
+    return QRect(corner, corner + way).normalized() & rect();
+}
+
+void Viewport::growMarquee(const QPointF &way)
+{
+    marqueeWay_ = marqueeWay_.value_or(QPointF()) + way;
+    update();
+}
+
+void Viewport::dropMarquee()
+{
+    marqueeWay_.reset();
+    update();
+}
+
+void Viewport::selectInMarquee()
+{
+    if (!marqueeWay_)
+        return;
+    const QRect area = marquee();
+    dropMarquee();
+    const RenderJob *picture = renderer_->picture();
+    const QRect pixels(pixelAt(area.topLeft()), pixelAt(area.bottomRight()));
+    const QList<int> objects = picture ? picture->objectsIn(pixels) : QList<int>();
+    scene_->select(objects);
+    Q_EMIT said(tr("Viewport: %1").arg(accessibleDescription()));
 }
 
 void Viewport::selectAt(const QPoint &place, bool toggles)
@@ -280,9 +322,12 @@ void Viewport::openMenu(const QPoint &globalPlace)
 
 void Viewport::tellSelection()
 {
-    const int object = scene_->selected();
-    setAccessibleDescription(object < 0 ? tr("Nothing is selected")
-                                        : tr("%1 is selected").arg(scene_->object(object).name));
+    QStringList names;
+    for (const int object : scene_->selection())
+        names.append(scene_->object(object).name);
+    const QString form = names.size() > 1 ? tr("%1 are selected") : tr("%1 is selected");
+    setAccessibleDescription(names.isEmpty() ? tr("Nothing is selected")
+                                             : form.arg(names.join(QStringLiteral(", "))));
 }
 
 void Viewport::changeEvent(QEvent *event)
@@ -338,6 +383,7 @@ void Viewport::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
         if (gestures_->isDragging()) {
             gestures_->cancel();
+            dropMarquee();
             return setCamera(cameraBefore_, Pace::Rest);
         }
         return QWidget::keyPressEvent(event);
@@ -384,6 +430,16 @@ void Viewport::resizeEvent(QResizeEvent *event)
     requestPicture(Pace::Step);
 }
 
+void Viewport::paintMarquee(QPainter *painter) const
+{
+    QColor fill = palette().color(QPalette::Highlight);
+    painter->setPen(fill);
+    fill.setAlphaF(marqueeOpacity);
+    painter->setBrush(fill);
+    painter->drawRect(marquee().adjusted(0, 0, -1, -1));
+    painter->setBrush(Qt::NoBrush);
+}
+
 void Viewport::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -392,6 +448,8 @@ void Viewport::paintEvent(QPaintEvent *)
         painter.fillRect(rect(), palette().window());
     else
         painter.drawPixmap(rect(), shown_);
+    if (marqueeWay_)
+        paintMarquee(&painter);
     if (!hasFocus())
         return;
     painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));

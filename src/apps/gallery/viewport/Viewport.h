@@ -6,13 +6,15 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <optional>
+
 class ViewScene;
 class ViewportGestures;
 
 /// The view of the scene. The mouse does what the table of gestures says; by keyboard the arrow
 /// keys turn the camera, with Shift they move it, with Control they turn the light, plus and minus
 /// go nearer and away, Home shows everything, and the menu key opens the menu. Escape takes a drag
-/// back.
+/// back. A drag with the gesture of a marquee selects all that the rectangle touches.
 class Viewport : public QWidget
 {
     Q_OBJECT
@@ -66,6 +68,11 @@ private:
     void requestPicture(ViewportRenderer::Pace pace);
     void follow(const QString &action, const QPointF &way, ViewportRenderer::Pace pace);
     void click(const QString &action, const QPoint &place);
+    void growMarquee(const QPointF &way);
+    void selectInMarquee();
+    void dropMarquee();
+    QRect marquee() const;
+    void paintMarquee(QPainter *painter) const;
     void selectAt(const QPoint &place, bool toggles);
     void pickTarget(const QPoint &place);
     bool applyMaterialAt(const QString &action, const QPoint &place);
@@ -81,5 +88,7 @@ private:
     OrbitCamera cameraBefore_;
     QPixmap shown_;
     QColor heldColor_;
+    /// How far a drag has gone that selects.
+    std::optional<QPointF> marqueeWay_;
     bool usesDevicePixels_ = true;
 };

@@ -19,6 +19,8 @@ public:
     explicit ViewportGestures(QObject *parent = nullptr);
 
     bool isDragging() const { return state_ == State::Dragging; }
+    /// Where the last button was pressed.
+    QPoint pressedPlace() const { return pressed_; }
     void press(const QMouseEvent *event);
     void move(const QMouseEvent *event);
     void release(const QMouseEvent *event);

@@ -11,6 +11,13 @@ namespace ZelDockHold {
 /// the dock isn't docked and visible.
 void holdOthers(ZelDockWidget *leaving);
 
+/// True while docks of the main window are held and wait for the end of it.
+bool isPending(const QWidget *window);
+
+/// Ends at once what is held, if anything is: the layout takes its final form, and the docks that
+/// were held can be resized. Docks that were fixed by others stay so.
+void end(QWidget *window);
+
 /// Lets go of the width and of the height of every dock of the parent that can't change it.
 void release(QWidget *parent);
 

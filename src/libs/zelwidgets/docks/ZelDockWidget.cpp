@@ -1,6 +1,7 @@
 #include "ZelDockWidget.h"
 
 #include "ZelStoredValue.h"
+#include "ZelTabKeyOrder.h"
 #include "ZelWindowPlacement.h"
 #include "docks/ZelDockHold.h"
 #include "docks/ZelDockPlaces.h"
@@ -148,6 +149,7 @@ void ZelDockWidget::setContentsWidget(QWidget *contents)
         d_->layout->addWidget(contents, 1);
         contents->setMouseTracking(true);
         watch(contents);
+        placeInTabOrder(contents, d_->title->lastTabStop());
     }
 }
 

@@ -95,6 +95,11 @@ void ZelDockWidgetTitle::setHeaderTitle(const QString &title)
     update();
 }
 
+QWidget *ZelDockWidgetTitle::lastTabStop() const
+{
+    return d_->dock;
+}
+
 QSize ZelDockWidgetTitle::sizeHint() const
 {
     return {leastWidth, std::max(leastHeight, fontMetrics().height() * 105 / 100)};

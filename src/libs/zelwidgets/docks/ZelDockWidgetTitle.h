@@ -25,6 +25,9 @@ public:
     /// Is shown in the place of the dock's window title; an empty one shows the window title.
     void setHeaderTitle(const QString &title);
 
+    /// What the Tab key reaches last of it.
+    QWidget *lastTabStop() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -55,11 +55,26 @@ void ZelStackedTabs::watch(QMainWindow *window)
         new ZelStackedTabs(window);
 }
 
+/// A bar that has no group any more is emptied and hidden by the layout, but it is shown again if
+/// that happens while all bars are being shown.
+void ZelStackedTabs::hideIfUnused(QTabBar *bar)
+{
+    const auto hide = [bar] {
+        if (bar->count() == 0)
+            bar->hide();
+    };
+    if (bar->count() == 0)
+        QMetaObject::invokeMethod(bar, hide, Qt::QueuedConnection);
+}
+
 bool ZelStackedTabs::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::ChildPolished) {
         if (auto *bar = qobject_cast<QTabBar *>(static_cast<QChildEvent *>(event)->child()))
             bar->installEventFilter(this);
+    } else if (event->type() == QEvent::Show) {
+        if (auto *bar = qobject_cast<QTabBar *>(object))
+            hideIfUnused(bar);
     } else if (event->type() == QEvent::MouseButtonRelease) {
         const QPointer<QTabBar> bar(qobject_cast<QTabBar *>(object));
         const auto *release = static_cast<QMouseEvent *>(event);

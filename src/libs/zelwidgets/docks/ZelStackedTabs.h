@@ -6,7 +6,8 @@ class QMainWindow;
 class QTabBar;
 
 /// A click on one of the tabs that Qt puts below docks that are stacked on each other takes the
-/// keyboard into the dock that comes to the front.
+/// keyboard into the dock that comes to the front. Bars that Qt leaves behind without tabs are
+/// hidden.
 class ZelStackedTabs : public QObject
 {
     Q_OBJECT
@@ -20,5 +21,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    static void hideIfUnused(QTabBar *bar);
+
     explicit ZelStackedTabs(QMainWindow *window);
 };

@@ -1,5 +1,6 @@
 #include "ZelTabWidgetDragDropHelper.h"
 
+#include "ZelTabKeyOrder.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
 #include "docks/ZelDocksOf.h"
@@ -107,6 +108,7 @@ void ZelTabWidgetDragDropHelper::takeBack(QWidget *page, const QIcon &icon, cons
         title.startsWith(dockHeaderPrefix_) ? title.mid(dockHeaderPrefix_.size()) : title;
     tabs_->addTab(page, icon, text);
     page->show();
+    placeInTabOrder(page, tabs_->tabBar());
     ZelTabOrder::apply(tabs_);
     tabs_->setCurrentWidget(page);
     tabs_->updateTabWidths();

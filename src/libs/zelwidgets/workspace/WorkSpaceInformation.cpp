@@ -1,6 +1,7 @@
 #include "WorkSpaceInformation.h"
 
 #include "ZelWindowPlacement.h"
+#include "docks/ZelDockHold.h"
 #include "docks/ZelDockPlaces.h"
 #include "docks/ZelDockWidgetFromTab.h"
 #include "docks/ZelDocking.h"
@@ -12,19 +13,20 @@
 
 #include <QDebug>
 #include <QGuiApplication>
+#include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
 namespace {
 
 /// Reads the switch, and writes it so that it can be found in the settings.
-bool readSwitch(const QString &key, bool fallback)
+bool readSwitch(ZelSettings &settings, const QString &key, bool fallback)
 {
-    ZelSettings settings(QStringLiteral("WorkSpaces"));
     const QVariant stored = settings.value(key);
     if (stored.metaType() == QMetaType::fromType<bool>())
         return stored.toBool();
@@ -32,13 +34,32 @@ bool readSwitch(const QString &key, bool fallback)
     return fallback;
 }
 
-/// A window that was never shown knows its screen by its place only.
-qint16 screenIndex(QWidget *widget)
+/// The index of the screen of a widget; what stands in the main window is where that is.
+class ScreenFinder
 {
-    QScreen *screen =
-        widget->isWindow() ? QGuiApplication::screenAt(widget->geometry().center()) : nullptr;
-    return qint16(QGuiApplication::screens().indexOf(screen ? screen : widgetScreen(widget)));
-}
+public:
+    explicit ScreenFinder(QWidget *window)
+        : window_(window)
+        , screens_(QGuiApplication::screens())
+        , windowIndex_(indexOf(widgetScreen(window)))
+    {}
+
+    qint16 of(QWidget *widget) const
+    {
+        if (!widget->isWindow())
+            return widget->window() == window_ ? windowIndex_ : indexOf(widgetScreen(widget));
+        // A window that was never shown knows its screen by its place only.
+        QScreen *screen = QGuiApplication::screenAt(widget->geometry().center());
+        return indexOf(screen ? screen : widgetScreen(widget));
+    }
+
+private:
+    qint16 indexOf(QScreen *screen) const { return qint16(screens_.indexOf(screen)); }
+
+    QWidget *window_;
+    QList<QScreen *> screens_;
+    qint16 windowIndex_;
+};
 
 QStringList pageNames(const QTabWidget *tabs)
 {
@@ -48,17 +69,42 @@ QStringList pageNames(const QTabWidget *tabs)
     return names;
 }
 
-/// Looks at widgets only, of which there are fewer than children.
-void addTabWidgets(const QWidget *widget, QList<QTabWidget *> &found)
+/// Finds the tab widgets below others. Each class is asked once whether it is one: most widgets are
+/// of few classes.
+class TabWidgetFinder
 {
-    for (QObject *child : widget->children()) {
-        if (!child->isWidgetType())
-            continue;
-        if (auto *tabs = qobject_cast<QTabWidget *>(child))
-            found.append(tabs);
-        addTabWidgets(static_cast<QWidget *>(child), found);
+public:
+    void look(const QWidget *widget)
+    {
+        for (QObject *child : widget->children()) {
+            if (!child->isWidgetType())
+                continue;
+            if (isTabWidget(child->metaObject()))
+                found.append(static_cast<QTabWidget *>(child));
+            if (!child->children().isEmpty())
+                look(static_cast<QWidget *>(child));
+        }
     }
-}
+
+    QList<QTabWidget *> found;
+
+private:
+    struct Answer
+    {
+        const QMetaObject *asked = nullptr;
+        bool isTabWidget = false;
+    };
+
+    bool isTabWidget(const QMetaObject *asked)
+    {
+        Answer &answer = answers_[quintptr(asked) / alignof(QMetaObject) % answers_.size()];
+        if (answer.asked != asked)
+            answer = {asked, asked->inherits(&QTabWidget::staticMetaObject)};
+        return answer.isTabWidget;
+    }
+
+    std::array<Answer, 64> answers_;
+};
 
 /// The order of children changes whenever one of them becomes a window.
 template <typename Dock, typename Name>
@@ -83,10 +129,11 @@ WorkSpaceInformation::WorkSpaceInformation(QWidget *libraryWindow, QWidget *proj
     : library_(qobject_cast<ZelTextIconTabWidget *>(libraryWindow))
     , project_(qobject_cast<ZelTextIconTabWidget *>(projectWindow))
     , window_(ZelDocking::mainWindowOf(library_))
-    , isDebugging_(readSwitch(QStringLiteral("debugEnabledOnWS"), false))
-    , expectsStudioHidden_(readSwitch(QStringLiteral("debugExpectStudioHidden"), true))
 {
-    readSwitch(QStringLiteral("debugExpectToolbarVisible"), true);
+    ZelSettings settings(QStringLiteral("WorkSpaces"));
+    isDebugging_ = readSwitch(settings, QStringLiteral("debugEnabledOnWS"), false);
+    expectsStudioHidden_ = readSwitch(settings, QStringLiteral("debugExpectStudioHidden"), true);
+    readSwitch(settings, QStringLiteral("debugExpectToolbarVisible"), true);
 }
 
 bool WorkSpaceInformation::hasWindows() const
@@ -99,50 +146,71 @@ QList<ZelDockWidgetFromTab *> WorkSpaceInformation::tornOutDocks() const
     QList<ZelDockWidgetFromTab *> docks = library_->getChildren();
     if (project_ != library_)
         docks += project_->getChildren();
+    if (docks.size() < 2)
+        return docks;
     return sortedByName(docks,
                         [](ZelDockWidget *dock) { return dock->contentsWidget()->objectName(); });
 }
 
 QList<QTabWidget *> WorkSpaceInformation::nestedTabWidgets() const
 {
-    QList<QTabWidget *> all;
-    addTabWidgets(library_, all);
+    return nestedTabWidgets(tornOutDocks());
+}
+
+QList<QTabWidget *>
+WorkSpaceInformation::nestedTabWidgets(const QList<ZelDockWidgetFromTab *> &tornOut) const
+{
+    TabWidgetFinder finder;
+    finder.look(library_);
     if (project_ != library_)
-        addTabWidgets(project_, all);
-    for (const ZelDockWidgetFromTab *dock : tornOutDocks()) {
+        finder.look(project_);
+    for (const ZelDockWidgetFromTab *dock : tornOut) {
         if (auto *page = qobject_cast<QTabWidget *>(dock->page()))
-            all.append(page);
+            finder.found.append(page);
         if (dock->page())
-            addTabWidgets(dock->page(), all);
+            finder.look(dock->page());
     }
-    return all;
+    return finder.found;
 }
 
 void WorkSpaceInformation::getDataFromCurrentState()
 {
     if (!hasWindows())
         return;
+    finishLayout();
     const char *const function = "WorkSpaceInformation::getDataFromCurrentState";
     checkStudio("at store 1", function, __LINE__);
-    captureTornOut();
+    const QList<ZelDockWidgetFromTab *> tornOut = tornOutDocks();
+    captureTornOut(tornOut);
     captureTabs();
     captureWindow();
     captureRibbon();
-    captureNestedTabs();
+    captureNestedTabs(nestedTabWidgets(tornOut));
     captureToolBar();
     captureDocks();
     checkStudio("at store 2", function, __LINE__);
 }
 
-void WorkSpaceInformation::captureTornOut()
+/// What was changed just before is taken down as it will be, not on its way there.
+void WorkSpaceInformation::finishLayout()
 {
+    ZelDockHold::end(window_);
+    if (window_->isVisible())
+        window_->layout()->activate();
+}
+
+void WorkSpaceInformation::captureTornOut(const QList<ZelDockWidgetFromTab *> &docks)
+{
+    if (docks.isEmpty())
+        return;
     ZelDockPlaces places(window_);
-    for (ZelDockWidgetFromTab *dock : tornOutDocks()) {
+    const ScreenFinder screens(window_);
+    for (ZelDockWidgetFromTab *dock : docks) {
         dock->assignStableName();
         record_.tornOutNames.append(dock->contentsWidget()->objectName());
         record_.tornOutRects.append(dock->isHidden() ? WorkSpaceRecord::hiddenRect()
                                                      : places.of(dock));
-        record_.tornOutScreens.append(screenIndex(dock));
+        record_.tornOutScreens.append(screens.of(dock));
     }
 }
 
@@ -166,9 +234,9 @@ void WorkSpaceInformation::captureWindow()
     record_.maximized = window_->isMaximized();
 }
 
-void WorkSpaceInformation::captureNestedTabs()
+void WorkSpaceInformation::captureNestedTabs(const QList<QTabWidget *> &nested)
 {
-    for (const QTabWidget *tabs : nestedTabWidgets()) {
+    for (const QTabWidget *tabs : nested) {
         const QString name = tabs->objectName();
         if (name.isEmpty())
             continue;
@@ -182,16 +250,20 @@ void WorkSpaceInformation::captureNestedTabs()
 void WorkSpaceInformation::captureDocks()
 {
     record_.enableDocking = ZelDocking::isEnabled();
-    const QList<ZelDockWidget *> docks =
-        sortedByName(zelDocksOf<ZelDockWidget>(window_),
-                     [](const ZelDockWidget *dock) { return dock->objectName(); });
+    QList<ZelDockWidget *> docks = zelDocksOf<ZelDockWidget>(window_);
+    docks.removeIf([](const ZelDockWidget *dock) {
+        return !dock->isVisible() || dock->objectName().isEmpty();
+    });
+    docks = sortedByName(docks, [](const ZelDockWidget *dock) { return dock->objectName(); });
+    record_.dockNames.reserve(docks.size());
+    record_.dockRects.reserve(docks.size());
+    record_.dockScreens.reserve(docks.size());
     ZelDockPlaces places(window_);
-    for (ZelDockWidget *dock : docks) {
-        if (!dock->isVisible() || dock->objectName().isEmpty())
-            continue;
+    const ScreenFinder screens(window_);
+    for (ZelDockWidget *dock : std::as_const(docks)) {
         record_.dockNames.append(dock->objectName());
         record_.dockRects.append(places.of(dock));
-        record_.dockScreens.append(screenIndex(dock));
+        record_.dockScreens.append(screens.of(dock));
     }
     for (const QScreen *screen : QGuiApplication::screens())
         record_.screens.append(screen->geometry());

@@ -37,12 +37,14 @@ private:
     QToolBar *ribbon() const;
     QList<ZelDockWidgetFromTab *> tornOutDocks() const;
     QList<QTabWidget *> nestedTabWidgets() const;
+    QList<QTabWidget *> nestedTabWidgets(const QList<ZelDockWidgetFromTab *> &tornOut) const;
 
-    void captureTornOut();
+    void finishLayout();
+    void captureTornOut(const QList<ZelDockWidgetFromTab *> &docks);
     void captureTabs();
     void captureWindow();
     void captureRibbon();
-    void captureNestedTabs();
+    void captureNestedTabs(const QList<QTabWidget *> &nested);
     void captureToolBar();
     void captureDocks();
 

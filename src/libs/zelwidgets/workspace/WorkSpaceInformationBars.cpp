@@ -31,12 +31,20 @@ void setActionVisible(QToolBar *bar, QAction *action, bool visible)
     widget->setProperty(keptProperty, isKept && !visible);
 }
 
+/// The bars of a main window are its own children; an application may have put one elsewhere.
+template <typename Bar>
+Bar *barOf(const QMainWindow *window, const QString &name)
+{
+    Bar *bar = window->findChild<Bar *>(name, Qt::FindDirectChildrenOnly);
+    return bar ? bar : window->findChild<Bar *>(name);
+}
+
 } // namespace
 
 QToolBar *WorkSpaceInformation::ribbon() const
 {
     // The button of the workspaces bears this name too.
-    return window_->findChild<QToolBar *>(QStringLiteral("Ribbon"));
+    return barOf<QToolBar>(window_, QStringLiteral("Ribbon"));
 }
 
 void WorkSpaceInformation::captureRibbon()
@@ -55,7 +63,7 @@ void WorkSpaceInformation::captureRibbon()
 
 void WorkSpaceInformation::captureToolBar()
 {
-    const auto *bar = window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar"));
+    const auto *bar = barOf<ZelToolBar>(window_, QStringLiteral("MainToolBar"));
     if (!bar)
         return;
     record_.toolBarIconSize = bar->iconSize();
@@ -83,7 +91,7 @@ void WorkSpaceInformation::restoreRibbon()
 
 void WorkSpaceInformation::restoreToolBar()
 {
-    auto *bar = window_ ? window_->findChild<ZelToolBar *>(QStringLiteral("MainToolBar")) : nullptr;
+    auto *bar = window_ ? barOf<ZelToolBar>(window_, QStringLiteral("MainToolBar")) : nullptr;
     if (!bar || !record_.isValid || record_.toolBarIconSize.isEmpty())
         return;
     bar->setUpdatesEnabled(false);

@@ -109,7 +109,9 @@ bool WorkSpaceInformation::read(const QByteArray &data)
 
 void WorkSpaceInformation::putPagesBack()
 {
-    // Docks that are still held from a change just before would keep their sizes.
+    // Docks that are still held from a change just before would keep their sizes, and the end of
+    // it would let go of those that are placed.
+    ZelDockHold::end(window_);
     ZelDockHold::release(window_);
     QList<QPointer<ZelDockWidgetFromTab>> docks;
     for (ZelDockWidgetFromTab *dock : zelDocksOf<ZelDockWidgetFromTab>(window_))

@@ -3,6 +3,8 @@
 #include <QDataStream>
 #include <QIODevice>
 
+#include <string_view>
+
 namespace {
 
 constexpr quint8 docksMarker = 0xfd;
@@ -119,6 +121,8 @@ private:
 
 QByteArray WorkSpaceLayoutState::withoutNameless(const QByteArray &state)
 {
-    static const QByteArray nameless("\xfb\xff\xff\xff\xff", 5);
-    return state.contains(nameless) ? Reader(state).read() : state;
+    using namespace std::string_view_literals;
+    constexpr auto nameless = "\xfb\xff\xff\xff\xff"sv;
+    const std::string_view text(state.constData(), size_t(state.size()));
+    return text.find(nameless) == text.npos ? state : Reader(state).read();
 }

@@ -1,5 +1,7 @@
 #include "workspace/WorkSpaceList.h"
 
+#include <QSet>
+
 namespace {
 
 const QLatin1String idsKey("ids");
@@ -34,9 +36,11 @@ WorkSpaceList::WorkSpaceList()
 {
     const QStringList ids = settings_.value(idsKey).toStringList();
     const QStringList names = settings_.value(namesKey).toStringList();
+    QSet<QString> known;
     for (qsizetype i = 0; i < ids.size(); ++i) {
-        if (isReserved(ids[i]) || ids_.contains(ids[i]))
+        if (isReserved(ids[i]) || known.contains(ids[i]))
             continue;
+        known.insert(ids[i]);
         ids_.append(ids[i]);
         names_.append(names.value(i, ids[i]));
     }
@@ -71,16 +75,18 @@ void WorkSpaceList::replace(const QList<DefaultWorkSpaceInfo> &workSpaces)
     const QStringList former = ids_;
     ids_.clear();
     names_.clear();
+    QSet<QString> known;
     for (const DefaultWorkSpaceInfo &workSpace : workSpaces) {
-        if (isReserved(workSpace.id) || contains(workSpace.id))
+        if (isReserved(workSpace.id) || known.contains(workSpace.id))
             continue;
+        known.insert(workSpace.id);
         ids_.append(workSpace.id);
         names_.append(workSpace.name);
         if (!workSpace.data.isEmpty())
             settings_.setValue(workSpace.id, workSpace.data);
     }
     for (const QString &id : former) {
-        if (!contains(id))
+        if (!known.contains(id))
             settings_.removeKey(id);
     }
     store();

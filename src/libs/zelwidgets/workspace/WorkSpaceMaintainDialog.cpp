@@ -5,6 +5,7 @@
 #include "theme/ZelStyleIcon.h"
 #include "workspace/MaxLengthItemDelete.h"
 #include "workspace/WorkSpaceFiles.h"
+#include "workspace/WorkSpaceNameChooser.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRibbonData.h"
 
@@ -186,14 +187,12 @@ void WorkSpaceMaintainDialog::importFromFiles()
     if (!self || workSpaces.isEmpty())
         return;
     const int firstRow = model_->rowCount();
-    QStringList names = listedNames();
     // Ids of deleted workspaces are still in use until the dialog is accepted.
-    QStringList ids = listedIds() + data_->list.ids();
+    WorkSpaceNameChooser chooser(listedIds() + data_->list.ids(), listedNames());
     for (const DefaultWorkSpaceInfo &workSpace : workSpaces) {
-        ids.append(WorkSpaceNames::freeId(ids));
-        names.append(WorkSpaceNames::importedName(workSpace.name, names));
-        pending_.insert(ids.last(), workSpace.data);
-        appendRow(ids.last(), names.last());
+        const QString id = chooser.takeId();
+        pending_.insert(id, workSpace.data);
+        appendRow(id, chooser.takeName(workSpace.name));
     }
     const QItemSelection imported(model_->index(firstRow, 0),
                                   model_->index(model_->rowCount() - 1, 0));

@@ -1,5 +1,7 @@
 #include "workspace/WorkSpaceNames.h"
 
+#include "workspace/WorkSpaceNameChooser.h"
+
 #include <ZelCore/splitTrailingNumber>
 
 #include <QSet>
@@ -20,21 +22,6 @@ QString firstFree(const QString &form, const QStringList &taken)
     return form.arg(number);
 }
 
-/// The first characters of a text, without half a surrogate pair at the end.
-QString cut(const QString &text, qsizetype length)
-{
-    if (text.size() <= length)
-        return text;
-    const bool isInPair = length > 0 && text[length - 1].isHighSurrogate();
-    return text.left(isInPair ? length - 1 : length);
-}
-
-QString numbered(const QString &stem, qint64 number)
-{
-    const QString digits = QString::number(number);
-    return cut(stem, WorkSpaceNames::maximumLength - digits.size()) + digits;
-}
-
 bool isNameCharacter(QChar character)
 {
     return character.isLetterOrNumber() || character == u'_' || character == u'-';
@@ -44,7 +31,7 @@ bool isNameCharacter(QChar character)
 
 QString WorkSpaceNames::freeId(const QStringList &takenIds)
 {
-    return firstFree(QStringLiteral("wsid%1"), takenIds);
+    return WorkSpaceNameChooser(takenIds, {}).takeId();
 }
 
 QString WorkSpaceNames::proposedName(const QStringList &takenNames)
@@ -56,16 +43,7 @@ QString WorkSpaceNames::proposedName(const QStringList &takenNames)
 
 QString WorkSpaceNames::importedName(const QString &name, const QStringList &takenNames)
 {
-    const QString fitting = cut(name, maximumLength);
-    const QString wanted = fitting.trimmed().isEmpty() ? QStringLiteral("Imported") : fitting;
-    if (!takenNames.contains(wanted))
-        return wanted;
-    const QSet<QString> all(takenNames.begin(), takenNames.end());
-    const ZelTrailingNumber split = splitTrailingNumber(wanted);
-    qint64 number = split.number.value_or(0) + 1;
-    while (all.contains(numbered(split.stem, number)))
-        ++number;
-    return numbered(split.stem, number);
+    return WorkSpaceNameChooser({}, takenNames).takeName(name);
 }
 
 QString WorkSpaceNames::exportedId(const QString &id)

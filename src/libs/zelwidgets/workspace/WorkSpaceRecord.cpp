@@ -1,9 +1,7 @@
 #include "workspace/WorkSpaceRecord.h"
 
 #include "workspace/WorkSpaceReader.h"
-
-#include <QDataStream>
-#include <QIODevice>
+#include "workspace/WorkSpaceWriter.h"
 
 namespace {
 
@@ -50,17 +48,15 @@ void visitDockFields(Record &record, Visitor &&visit)
 
 QByteArray WorkSpaceRecord::write() const
 {
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(workSpaceStreamVersion);
-    const auto write = [&stream](const auto &field) {
-        stream << field;
+    WorkSpaceWriter writer;
+    const auto write = [&writer](const auto &field) {
+        writer.write(field);
     };
     write(currentVersion);
     visitFirstFields(*this, write);
     visitDockFields(*this, write);
     write(toolBarMode);
-    return bytes;
+    return writer.take();
 }
 
 WorkSpaceRecord WorkSpaceRecord::read(const QByteArray &bytes)
