@@ -98,17 +98,22 @@ void ZelShortcutHandlerPrivate::deleteHandlersBut(
 {
     // Objects that are made meanwhile must not get hold of those that are still to be given back.
     const QScopedValueRollback<bool> batch(batchUpdate, true);
+    const auto stays = [&kept](const QPointer<ZelShortcutConflictHandler> &handler) {
+        return !handler || (kept.contains(handler) && !handler->isEmpty());
+    };
     // Each stays in the list until all is given back, for those who apply keys on hearing of that.
-    const QList<QPointer<ZelShortcutConflictHandler>> handlers = conflictHandlers;
-    for (const QPointer<ZelShortcutConflictHandler> &handler : handlers) {
-        if (!handler || (kept.contains(handler) && !handler->objects().isEmpty()))
+    QList<QPointer<ZelShortcutConflictHandler>> handlers;
+    if (!std::all_of(conflictHandlers.cbegin(), conflictHandlers.cend(), stays))
+        handlers = conflictHandlers;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(handlers)) {
+        if (stays(handler))
             continue;
         if (handlerOf(handler->key()) == handler)
             handlersByKey.remove(ZelKeyCodes(handler->key()));
         handler->dismiss();
     }
     conflictHandlers.removeIf([](const QPointer<ZelShortcutConflictHandler> &handler) {
-        return !handler || handler->objects().isEmpty();
+        return !handler || handler->isEmpty();
     });
 }
 
@@ -177,10 +182,8 @@ QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
 {
     QHash<const QObject *, QKeySequence> lent;
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
-        for (const QObject *object : handler ? handler->objects() : QList<QObject *>()) {
-            if (qobject_cast<const ZelShortcut *>(object))
-                lent.insert(object, handler->key());
-        }
+        for (const QObject *shortcut : handler ? handler->shortcuts() : QList<QObject *>())
+            lent.insert(shortcut, handler->key());
     }
     // Where the list ended when the group was put there.
     QHash<ZelKeyCodes, qsizetype> positions;
@@ -217,8 +220,8 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
     QList<Group> groups = groupByKeys();
     QHash<const QObject *, ZelShortcutConflictHandler *> handlerOfFirst;
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
-        if (handler && !handler->objects().isEmpty())
-            handlerOfFirst.insert(handler->objects().constFirst(), handler);
+        if (handler && !handler->isEmpty())
+            handlerOfFirst.insert(handler->firstObject(), handler);
     }
     QSet<const ZelShortcutConflictHandler *> kept;
     groups.removeIf([&](const Group &group) {
