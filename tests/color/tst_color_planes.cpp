@@ -79,30 +79,31 @@ private Q_SLOTS:
 
 void ColorPlanesTest::planeHasTheBytesOfTheFormula_data()
 {
-    QTest::addColumn<float>("hue");
     QTest::addColumn<float>("exponent");
-    for (const float hue : {0.0F, 42.5F, 119.0F, 180.0F, 299.9F, -30.0F, 725.0F}) {
-        for (const float exponent : {1.0F, 1.0F / 2.2F, 1.8F})
-            QTest::addRow("%g to the %g", double(hue), double(exponent)) << hue << exponent;
-    }
+    // The outer ones crowd nearly all bytes into a few floats.
+    for (const float exponent : {1.0F, 1.0F / 2.2F, 0.7F, 1.8F, 0.01F, 300.0F})
+        QTest::addRow("to the %g", double(exponent)) << exponent;
 }
 
 void ColorPlanesTest::planeHasTheBytesOfTheFormula()
 {
-    QFETCH(float, hue);
     QFETCH(float, exponent);
-    const QImage plane = ZelSpectrumMath::plane(hue, exponent);
-    QCOMPARE(plane.format(), QImage::Format_RGB888);
-    QCOMPARE(plane.size(), QSize(256, 256));
-    for (int row = 0; row < 256; ++row) {
-        for (int column = 0; column < 256; ++column) {
-            const auto rgb =
-                ZelColorMath::hsvToRgb({hue, float(column) / 255.0F, float(255 - row) / 255.0F});
-            for (std::size_t i = 0; i < 3; ++i) {
-                const int expected = int(std::pow(rgb[i], exponent) * 255.0F);
-                QCOMPARE(int(plane.constScanLine(row)[3 * std::size_t(column) + i]), expected);
+    QList<float> hues{42.51F, 299.9F, -30.5F, 725.0F};
+    for (int degrees = 0; degrees <= 360; degrees += 20)
+        hues << float(degrees);
+    for (const float hue : hues) {
+        QImage expected(256, 256, QImage::Format_RGB888);
+        for (int row = 0; row < 256; ++row) {
+            uchar *byte = expected.scanLine(row);
+            for (int column = 0; column < 256; ++column) {
+                const auto rgb = ZelColorMath::hsvToRgb(
+                    {hue, float(column) / 255.0F, float(255 - row) / 255.0F});
+                for (const float channel : rgb)
+                    *byte++ = uchar(int(std::pow(channel, exponent) * 255.0F));
             }
         }
+        QVERIFY2(ZelSpectrumMath::plane(hue, exponent) == expected,
+                 qPrintable(QString::number(hue)));
     }
 }
 

@@ -135,7 +135,7 @@ void Settings::applyEntries()
     for (ZelMouseAction *action : gestureActions()) {
         const auto entry = entries.constFind(action->id());
         if (entry != entries.constEnd() && entry->currentKey != action->internalShortcutTxt())
-            action->setShortcutFromText(entry->currentKey);
+            action->setShortcutFromText(entry->currentKey.text());
     }
 }
 

@@ -92,9 +92,7 @@ private:
         command.text_ =
             ZelShortcutTreeItem::displayText(entry.text.isEmpty() ? member.text() : entry.text);
         // While keys are in conflict shortcuts are without theirs.
-        command.key_ = member.hasKey()
-                           ? member.key()
-                           : QKeySequence::fromString(entry.currentKey, QKeySequence::PortableText);
+        command.key_ = member.hasKey() ? member.key() : entry.currentKey.key();
         command.member_ = member;
         return command;
     }

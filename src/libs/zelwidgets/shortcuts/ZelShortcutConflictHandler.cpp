@@ -169,6 +169,21 @@ QList<QObject *> ZelShortcutConflictHandler::objects() const
     return objects;
 }
 
+QObject *ZelShortcutConflictHandler::firstObject() const
+{
+    return isEmpty() ? nullptr : members_.constFirst().object();
+}
+
+QList<QObject *> ZelShortcutConflictHandler::shortcuts() const
+{
+    QList<QObject *> shortcuts;
+    for (const ConflictMember &member : members_) {
+        if (member.isShortcut())
+            shortcuts.append(member.object());
+    }
+    return shortcuts;
+}
+
 bool ZelShortcutConflictHandler::isFor(const QList<QPointer<QObject>> &objects) const
 {
     const QWidget *mainWidget = ZelShortcutHandlerPrivate::mainWidget();

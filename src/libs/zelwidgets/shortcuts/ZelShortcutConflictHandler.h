@@ -30,6 +30,11 @@ public:
     void add(QObject *object);
     bool holds(const QObject *object) const;
     QList<QObject *> objects() const;
+    bool isEmpty() const { return members_.isEmpty(); }
+    /// Null without any.
+    QObject *firstObject() const;
+    /// The shortcuts among the objects, which are without their key meanwhile.
+    QList<QObject *> shortcuts() const;
     /// Whether it is what make() and add() would make of these, in this order.
     bool isFor(const QList<QPointer<QObject>> &objects) const;
     /// Gives the members their keys back and goes, at once or when the present press is over.

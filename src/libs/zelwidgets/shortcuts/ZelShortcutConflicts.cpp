@@ -56,7 +56,7 @@ QSet<QWidget *> places(const QList<QPointer<QObject>> &objects, const QString &i
 
 ZelShortcutConflictHandler *ZelShortcutHandlerPrivate::handlerOf(const QKeySequence &key) const
 {
-    return handlersByKey.value(key);
+    return handlersByKey.value(ZelKeyCodes(key));
 }
 
 bool ZelShortcutHandlerPrivate::isHeld(const QObject *object, const QKeySequence &key) const
@@ -81,7 +81,7 @@ void ZelShortcutHandlerPrivate::deleteOutdatedHandlers()
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
         if (!handler)
             continue;
-        const QString key = handler->key().toString(QKeySequence::PortableText);
+        const ZelKeyText key(handler->key());
         const QList<QObject *> objects = handler->objects();
         const bool isInForce = std::all_of(objects.begin(), objects.end(), [&](QObject *object) {
             const auto entry = entries.constFind(ConflictMember(object).id());
@@ -98,17 +98,22 @@ void ZelShortcutHandlerPrivate::deleteHandlersBut(
 {
     // Objects that are made meanwhile must not get hold of those that are still to be given back.
     const QScopedValueRollback<bool> batch(batchUpdate, true);
+    const auto stays = [&kept](const QPointer<ZelShortcutConflictHandler> &handler) {
+        return !handler || (kept.contains(handler) && !handler->isEmpty());
+    };
     // Each stays in the list until all is given back, for those who apply keys on hearing of that.
-    const QList<QPointer<ZelShortcutConflictHandler>> handlers = conflictHandlers;
-    for (const QPointer<ZelShortcutConflictHandler> &handler : handlers) {
-        if (!handler || (kept.contains(handler) && !handler->objects().isEmpty()))
+    QList<QPointer<ZelShortcutConflictHandler>> handlers;
+    if (!std::all_of(conflictHandlers.cbegin(), conflictHandlers.cend(), stays))
+        handlers = conflictHandlers;
+    for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(handlers)) {
+        if (stays(handler))
             continue;
         if (handlerOf(handler->key()) == handler)
-            handlersByKey.remove(handler->key());
+            handlersByKey.remove(ZelKeyCodes(handler->key()));
         handler->dismiss();
     }
     conflictHandlers.removeIf([](const QPointer<ZelShortcutConflictHandler> &handler) {
-        return !handler || handler->objects().isEmpty();
+        return !handler || handler->isEmpty();
     });
 }
 
@@ -121,7 +126,7 @@ void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
         rebuildConflictHandlers();
         return;
     }
-    const Group others = rememberKey(object, key);
+    const Comers others = rememberKey(object, key);
     if (ZelShortcutConflictHandler *handler = handlerOf(key)) {
         handler->add(object);
         return;
@@ -137,10 +142,10 @@ void ZelShortcutHandlerPrivate::lookForConflict(QObject *object)
 }
 
 /// All that came with the key, the object included.
-ZelShortcutHandlerPrivate::Group ZelShortcutHandlerPrivate::rememberKey(QObject *object,
-                                                                        const QKeySequence &key)
+ZelShortcutHandlerPrivate::Comers &ZelShortcutHandlerPrivate::rememberKey(QObject *object,
+                                                                          const QKeySequence &key)
 {
-    Group &group = objectsByKey[key];
+    Comers &group = objectsByKey[ZelKeyCodes(key)];
     // Now and then, so that views that come and go leave nothing behind.
     const bool isPowerOfTwo = (group.size() & (group.size() - 1)) == 0;
     if (isPowerOfTwo)
@@ -165,7 +170,7 @@ void ZelShortcutHandlerPrivate::makeHandler(Group group)
         if (conflictHandlers.isEmpty())
             GlobalEventFilter::instance();
         conflictHandlers.append(handler);
-        handlersByKey.insert(handler->key(), handler);
+        handlersByKey.insert(ZelKeyCodes(handler->key()), handler);
     }
     for (const QPointer<QObject> &object : group) {
         if (handler && keyOf(object) == handler->key())
@@ -177,12 +182,11 @@ QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
 {
     QHash<const QObject *, QKeySequence> lent;
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
-        for (const QObject *object : handler ? handler->objects() : QList<QObject *>()) {
-            if (qobject_cast<const ZelShortcut *>(object))
-                lent.insert(object, handler->key());
-        }
+        for (const QObject *shortcut : handler ? handler->shortcuts() : QList<QObject *>())
+            lent.insert(shortcut, handler->key());
     }
-    QHash<QKeySequence, qsizetype> positions;
+    // Where the list ended when the group was put there.
+    QHash<ZelKeyCodes, qsizetype> positions;
     QList<Group> groups;
     QSet<QObject *> seen;
     positions.reserve(liveObjects.size());
@@ -194,18 +198,18 @@ QList<ZelShortcutHandlerPrivate::Group> ZelShortcutHandlerPrivate::groupByKeys()
         if (key.isEmpty() || seen.contains(object))
             continue;
         seen << object;
-        const auto position = positions.constFind(key);
-        if (position != positions.constEnd()) {
-            groups[*position].append(object);
-        } else {
-            positions.insert(key, groups.size());
-            groups.append({object});
+        qsizetype &end = positions[ZelKeyCodes(key)];
+        if (end == 0) {
+            groups.append(Group());
+            end = groups.size();
         }
+        groups[end - 1].append(object);
     }
     objectsByKey.clear();
     objectsByKey.reserve(groups.size());
     for (auto position = positions.constBegin(); position != positions.constEnd(); ++position)
-        objectsByKey.insert(position.key(), groups[*position]);
+        objectsByKey.insert(position.key(),
+                            Comers(groups[*position - 1].cbegin(), groups[*position - 1].cend()));
     return groups;
 }
 
@@ -216,8 +220,8 @@ void ZelShortcutHandlerPrivate::rebuildConflictHandlers()
     QList<Group> groups = groupByKeys();
     QHash<const QObject *, ZelShortcutConflictHandler *> handlerOfFirst;
     for (const QPointer<ZelShortcutConflictHandler> &handler : std::as_const(conflictHandlers)) {
-        if (handler && !handler->objects().isEmpty())
-            handlerOfFirst.insert(handler->objects().constFirst(), handler);
+        if (handler && !handler->isEmpty())
+            handlerOfFirst.insert(handler->firstObject(), handler);
     }
     QSet<const ZelShortcutConflictHandler *> kept;
     groups.removeIf([&](const Group &group) {

@@ -73,8 +73,8 @@ void ZelShortcutGuiHelper::buildTree(QTreeWidget *tree)
         if (!category)
             continue;
         auto *item = new Item(category, entry.key(), entry->text);
-        item->setShortcut(entry->currentKey);
-        item->setDefaultShortCut(entry->defaultKey);
+        item->setShortcut(entry->currentKey.text());
+        item->setDefaultShortCut(entry->defaultKey.text());
         item->setData(Item::NameColumn, Item::CategoryRole, entry->category);
     }
 }

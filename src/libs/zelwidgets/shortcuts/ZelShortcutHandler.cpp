@@ -23,16 +23,6 @@ std::unique_ptr<ZelShortcutHandler> &registry()
     return registry;
 }
 
-QString portable(const QKeySequence &key)
-{
-    return key.toString(QKeySequence::PortableText);
-}
-
-QKeySequence fromPortable(const QString &text)
-{
-    return QKeySequence::fromString(text, QKeySequence::PortableText);
-}
-
 /// Whether the live object has the id; a ZelAction that has lost its action has none.
 bool hasId(const QObject *object, const QString &id)
 {
@@ -42,6 +32,14 @@ bool hasId(const QObject *object, const QString &id)
         return shortcut->id() == id;
     const auto *mouse = qobject_cast<const ZelMouseAction *>(object);
     return mouse && mouse->id() == id;
+}
+
+/// Thousands of objects may each tell this: nothing is formatted.
+void tellOfLimit()
+{
+    static const QString message =
+        QStringLiteral("Clean limit (or other) issue in ZelShortcuthandler");
+    qt_message_output(QtWarningMsg, {nullptr, 0, nullptr, "default"}, message);
 }
 
 } // namespace
@@ -88,29 +86,35 @@ bool ZelShortcutHandler::isConflictHandler(const QShortcut *shortcut)
 
 void ZelShortcutHandler::registerKeyShortcut(QString id, QString text, QKeySequence key)
 {
-    registerShortcut(std::move(id), std::move(text), portable(key));
+    d_->decidedKey(id, text, ZelKeyText(key));
 }
 
 QString ZelShortcutHandler::registerShortcut(QString id, QString text, QString key)
 {
-    const GlobalShortcutSettings &global = ZelShortcutHandlerPrivate::global();
+    return d_->decidedKey(id, text, key).text();
+}
+
+ZelKeyText ZelShortcutHandlerPrivate::decidedKey(const QString &id, const QString &text,
+                                                 ZelKeyText asked)
+{
     const qsizetype dot = id.lastIndexOf(u'.');
     if (dot < 0)
-        return key;
-    static const QString escape = portable(Qt::Key_Escape);
-    if (key == escape)
-        key.clear();
-    if (!global.categoryIndex.contains(QString::fromRawData(id.constData(), dot)))
-        return key;
-    text = global.nameOverrides.value(id, text);
+        return asked;
+    static const QKeySequence escape(Qt::Key_Escape);
+    if (asked.isKey(escape))
+        asked = {};
+    if (!global().categoryIndex.contains(QString::fromRawData(id.constData(), dot)))
+        return asked;
+    const auto override = global().nameOverrides.constFind(id);
+    const QString &name = override == global().nameOverrides.constEnd() ? text : *override;
     // Thousands are registered at the start: one search serves both to find and to insert.
-    const auto entry = d_->entries.lowerBound(id);
-    if (entry == d_->entries.end() || id < entry.key()) {
-        d_->entries.insert(entry, id, {key, key, text});
-        return key;
+    const auto entry = entries.lowerBound(id);
+    if (entry == entries.end() || id < entry.key()) {
+        entries.insert(entry, id, {asked, asked, name});
+        return asked;
     }
-    if (!d_->systemInitialized && text.size() > entry->text.size())
-        entry->text = text;
+    if (!systemInitialized && name.size() > entry->text.size())
+        entry->text = name;
     return entry->currentKey;
 }
 
@@ -119,12 +123,13 @@ void ZelShortcutHandler::registerActionOrSetShortcut(ZelAction &action)
     QAction *qAction = action.qAction();
     if (!qAction)
         return;
-    const QString asked = portable(qAction->shortcut());
-    const QString key = registerShortcut(action.id(), qAction->text(), asked);
-    if (ZelHotKeyMaterials::isMaterialId(action.id()) && qAction->text().isEmpty())
-        qAction->setText(d_->entries.value(action.id()).text);
+    const QString id = action.id();
+    const ZelKeyText asked(qAction->shortcut());
+    const ZelKeyText key = d_->decidedKey(id, qAction->text(), asked);
+    if (ZelHotKeyMaterials::isMaterialId(id) && qAction->text().isEmpty())
+        qAction->setText(d_->entries.value(id).text);
     if (key != asked) {
-        const QKeySequence sequence = fromPortable(key);
+        const QKeySequence sequence = key.key();
         if (sequence != qAction->shortcut())
             qAction->setShortcut(sequence);
     }
@@ -133,12 +138,13 @@ void ZelShortcutHandler::registerActionOrSetShortcut(ZelAction &action)
 
 void ZelShortcutHandler::registerOrChangeShortcut(ZelShortcut &shortcut)
 {
-    const QString asked = portable(shortcut.key());
-    const QString key = registerShortcut(shortcut.id(), shortcut.text(), asked);
-    if (ZelHotKeyMaterials::isMaterialId(shortcut.id()) && shortcut.text().isEmpty())
-        shortcut.setText(d_->entries.value(shortcut.id()).text);
+    const QString id = shortcut.id();
+    const ZelKeyText asked(shortcut.key());
+    const ZelKeyText key = d_->decidedKey(id, shortcut.text(), asked);
+    if (ZelHotKeyMaterials::isMaterialId(id) && shortcut.text().isEmpty())
+        shortcut.setText(d_->entries.value(id).text);
     if (key != asked) {
-        const QKeySequence sequence = fromPortable(key);
+        const QKeySequence sequence = key.key();
         // A handler of conflicts may have taken the key away for the time being.
         if (sequence != shortcut.key() && !d_->isHeld(&shortcut, sequence))
             shortcut.setKey(sequence);
@@ -169,7 +175,7 @@ QObject *ZelShortcutHandler::findShortcut(QString id) const
 
 QString ZelShortcutHandler::getShortcutInfo(const QString &id)
 {
-    return d_->entries[id].currentKey;
+    return d_->entries[id].currentKey.text();
 }
 
 bool ZelShortcutHandler::hasDefaultShortcut(const QString &id) const
@@ -208,7 +214,7 @@ bool ZelShortcutHandler::changeShortcut(QString id, QString key, bool apply)
     const auto entry = d_->entries.find(id);
     if (entry == d_->entries.end())
         return false;
-    entry->currentKey = key;
+    entry->currentKey = std::move(key);
     if (apply)
         applyCurrentSettingsToShortcuts();
     return true;
@@ -268,7 +274,7 @@ void ZelShortcutHandlerPrivate::addLiveObject(QObject *object)
     if (liveObjects.size() > cleanLimit && hasDead)
         removeDead();
     if (liveObjects.size() > cleanLimit)
-        qWarning("Clean limit (or other) issue in ZelShortcuthandler");
+        tellOfLimit();
     liveObjects.append(object);
     if (batchUpdate || !systemInitialized)
         return;

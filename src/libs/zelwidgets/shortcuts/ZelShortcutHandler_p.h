@@ -1,11 +1,14 @@
 #pragma once
 
+#include "ZelKeyCodes.h"
+#include "ZelKeyText.h"
 #include "ZelShortcutHandler.h"
 
 #include <QHash>
 #include <QMap>
 #include <QPointer>
 #include <QSet>
+#include <QVarLengthArray>
 #include <QWidget>
 
 class ZelShortcutConflictHandler;
@@ -15,8 +18,8 @@ struct ShortcutEntry
 {
     static constexpr int keyboard = 3;
 
-    QString currentKey;
-    QString defaultKey;
+    ZelKeyText currentKey;
+    ZelKeyText defaultKey;
     QString text;
     /// A ZelMouseAction::Category, or keyboard.
     int category = keyboard;
@@ -41,6 +44,8 @@ class ZelShortcutHandlerPrivate
 {
 public:
     class Import;
+    /// Most are the only one with their key.
+    using Comers = QVarLengthArray<QPointer<QObject>, 1>;
 
     ~ZelShortcutHandlerPrivate();
 
@@ -48,9 +53,9 @@ public:
     QList<QPointer<QObject>> liveObjects;
     QList<QPointer<ZelShortcutConflictHandler>> conflictHandlers;
     /// The handlers by their keys.
-    QHash<QKeySequence, QPointer<ZelShortcutConflictHandler>> handlersByKey;
+    QHash<ZelKeyCodes, QPointer<ZelShortcutConflictHandler>> handlersByKey;
     /// The live objects by the keys that they came with.
-    QHash<QKeySequence, QList<QPointer<QObject>>> objectsByKey;
+    QHash<ZelKeyCodes, Comers> objectsByKey;
     bool systemInitialized = false;
     bool batchUpdate = false;
     /// A live object has died since the dead ones were last removed. The objects tell themselves,
@@ -60,6 +65,8 @@ public:
     static GlobalShortcutSettings &global();
     static QPointer<QWidget> &mainWidget();
 
+    /// The key in force for an id that is announced with this one.
+    ZelKeyText decidedKey(const QString &id, const QString &text, ZelKeyText asked);
     void addLiveObject(QObject *object);
     void removeDead();
 
@@ -78,7 +85,7 @@ public:
 
 private:
     using Group = QList<QPointer<QObject>>;
-    Group rememberKey(QObject *object, const QKeySequence &key);
+    Comers &rememberKey(QObject *object, const QKeySequence &key);
     void makeHandler(Group group);
     void deleteHandlersBut(const QSet<const ZelShortcutConflictHandler *> &kept);
     /// The live objects by their keys, those that are lent to handlers included.

@@ -53,9 +53,9 @@ QString mended(const QString &id, ZelSettings &store)
 QJsonObject asJson(const QString &id, const ShortcutEntry &entry)
 {
     return {{idField, id},
-            {keyField, entry.currentKey},
+            {keyField, entry.currentKey.text()},
             {textField, entry.text},
-            {defaultField, entry.defaultKey}};
+            {defaultField, entry.defaultKey.text()}};
 }
 
 QString asDocument(const ShortcutEntries &entries)
@@ -109,7 +109,7 @@ void ZelShortcutHandler::storeSettings()
     for (auto entry = d_->entries.cbegin(); entry != d_->entries.cend(); ++entry) {
         const QString key = ZelShortcutKeys::encoded(entry.key());
         store.removeKey(key);
-        store.setValue(key, entry->currentKey);
+        store.setValue(key, entry->currentKey.text());
     }
     ZelSettings::save();
 }
