@@ -1,6 +1,6 @@
 // The plane of saturation and value for a hue, beside the formula applied to each pixel (argument:
-// 100 times the exponent); a drag step of the triangle with its paint, beside one that draws the
-// ring anew as well (argument: side in pixels).
+// 100 times the exponent), and the first plane of another gamma; a drag step of the triangle with
+// its paint, beside one that draws the ring anew as well (argument: side in pixels).
 
 #include "color/ZelSpectrumMath.h"
 #include "color/ZelTriangleGeometry.h"
@@ -56,6 +56,15 @@ void planeOurs(benchmark::State &state)
     planes(state, &ZelSpectrumMath::plane);
 }
 
+void planeOfAnotherGamma(benchmark::State &state)
+{
+    float exponent = 0.4F;
+    for (auto _ : state) {
+        exponent = exponent < 0.6F ? exponent + 0.001F : 0.4F;
+        benchmark::DoNotOptimize(ZelSpectrumMath::plane(200, exponent));
+    }
+}
+
 void planePlain(benchmark::State &state)
 {
     planes(state, &planeByFormula);
@@ -80,6 +89,7 @@ void triangleStep(benchmark::State &state, bool withRing)
 }
 
 BENCHMARK(planeOurs)->Arg(100)->Arg(45)->Unit(benchmark::kMicrosecond);
+BENCHMARK(planeOfAnotherGamma)->Unit(benchmark::kMicrosecond);
 BENCHMARK(planePlain)->Arg(100)->Arg(45)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(triangleStep, ringKept, false)->Arg(200)->Arg(400)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(triangleStep, ringAnew, true)->Arg(200)->Arg(400)->Unit(benchmark::kMicrosecond);

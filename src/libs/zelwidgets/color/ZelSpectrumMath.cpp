@@ -87,6 +87,17 @@ Factors least()
     return factors;
 }
 
+std::array<Factors, channelCount> channelFactors(float hue)
+{
+    std::array<Factors, channelCount> factors;
+    for (std::size_t column = 0; column < side; ++column) {
+        const ZelColorMath::Triple rgb = factorsOf(hue, column);
+        for (std::size_t channel = 0; channel < channelCount; ++channel)
+            factors[channel][column] = rgb[channel];
+    }
+    return factors;
+}
+
 Bytes raisedRow(const ZelChannelBytes &raised, const Factors &factors, std::size_t row)
 {
     Factors channels;
@@ -114,12 +125,7 @@ QImage raisedPlane(float hue, float exponent)
 {
     const ZelChannelBytes &raised = ZelChannelBytes::raised(exponent);
     const std::vector<Bytes> &leastBytes = leastRows(raised, exponent);
-    std::array<Factors, channelCount> factors;
-    for (std::size_t column = 0; column < side; ++column) {
-        const ZelColorMath::Triple rgb = factorsOf(hue, column);
-        for (std::size_t channel = 0; channel < channelCount; ++channel)
-            factors[channel][column] = rgb[channel];
-    }
+    const std::array<Factors, channelCount> factors = channelFactors(hue);
     enum Kind { Greatest, Least, Own };
     std::array<Kind, channelCount> kinds;
     std::transform(factors.begin(), factors.end(), kinds.begin(), [](const Factors &channel) {
