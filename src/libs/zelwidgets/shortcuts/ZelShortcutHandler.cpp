@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QDebug>
+#include <QLoggingCategory>
 #include <QScopedValueRollback>
 
 namespace {
@@ -39,7 +40,8 @@ void tellOfLimit()
 {
     static const QString message =
         QStringLiteral("Clean limit (or other) issue in ZelShortcuthandler");
-    qt_message_output(QtWarningMsg, {nullptr, 0, nullptr, "default"}, message);
+    if (QLoggingCategory::defaultCategory()->isWarningEnabled())
+        qt_message_output(QtWarningMsg, {nullptr, 0, nullptr, "default"}, message);
 }
 
 } // namespace
