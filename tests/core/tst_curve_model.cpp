@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "TestCase.h"
 
 #include <ZelCore/ZelBezierCurveModel>
@@ -468,38 +469,32 @@ void CurveModelTest::theCurveNeverTurnsBackAndItsBoundsAreTight()
     }
 }
 
+using Input = std::tuple<int, ZelVertexData, QVariant, Text>;
+
 void CurveModelTest::unusableInputChangesNothing_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("message");
-    const QString numbers = QStringLiteral("points that are not finite are ignored");
-    QTest::newRow("no number") << 1 << 0 << QVariant(QPointF(notANumber, 1)) << numbers;
-    QTest::newRow("infinite") << 1 << 2 << QVariant(QPointF(1, -infinite)) << numbers;
-    QTest::newRow("a text") << 1 << 1 << QVariant(QStringLiteral("here"))
-                            << QStringLiteral("not a point");
-    QTest::newRow("empty position") << 1 << 0 << QVariant() << QStringLiteral("not a point");
-    QTest::newRow("before the first")
-        << -1 << 0 << QVariant(QPointF()) << QStringLiteral("no vertex -1");
-    QTest::newRow("behind the last")
-        << 3 << 0 << QVariant(QPointF()) << QStringLiteral("no vertex 3");
-    QTest::newRow("unknown key") << 1 << 3 << QVariant(QPointF())
-                                 << QStringLiteral("no data of key 3");
+    constexpr auto unknown = ZelVertexData(3);
+    const char *const numbers = "points that are not finite are ignored";
+    addRows<Input>({
+        {"no number", {1, position, QPointF(notANumber, 1), numbers}},
+        {"infinite", {1, out, QPointF(1, -infinite), numbers}},
+        {"a text", {1, in, QStringLiteral("here"), "not a point"}},
+        {"empty position", {1, position, QVariant(), "not a point"}},
+        {"before the first", {-1, position, QPointF(), "no vertex -1"}},
+        {"behind the last", {3, position, QPointF(), "no vertex 3"}},
+        {"unknown key", {1, unknown, QPointF(), "no data of key 3"}},
+    });
 }
 
 void CurveModelTest::unusableInputChangesNothing()
 {
-    QFETCH(int, index);
-    QFETCH(int, key);
-    QFETCH(QVariant, value);
-    QFETCH(QString, message);
+    const auto [index, key, value, message] = currentRow<Input>();
     ZelBezierCurveModel model;
     model.setVertices(hill());
     const QList<Vertex> before = model.vertices();
     QSignalSpy changed(&model, &ZelCurveModel::changed);
     messages().expect(QtWarningMsg, message);
-    model.setVertexData(index, ZelVertexData(key), value);
+    model.setVertexData(index, key, value);
     messages().expect(QtWarningMsg, QStringLiteral("not finite"));
     model.addVertex(std::numeric_limits<float>::infinity());
     messages().expect(QtWarningMsg, QStringLiteral("not finite"));
