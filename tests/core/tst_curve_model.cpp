@@ -9,12 +9,14 @@
 #include <QLineF>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
 using Vertex = ZelBezierCurveModel::Vertex;
+using Input = std::tuple<int, ZelVertexData, QVariant, Text>;
 constexpr ZelVertexData position = ZelVertexData::Position;
 constexpr ZelVertexData in = ZelVertexData::InTangent;
 constexpr ZelVertexData out = ZelVertexData::OutTangent;
@@ -60,30 +62,6 @@ QList<Vertex> hill()
     return {{QPointF(0, 0)}, middle, {QPointF(2, 0)}};
 }
 
-} // namespace
-
-class CurveModelTest : public TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void aRandomWalkKeepsHandlesAndOrder();
-    void changesInsideSignalsReachLateListenersInStep();
-    void listenersMayDeleteTheModel();
-    void handlesOfDeadVerticesAreHarmless();
-    void aLoadReplacesEverythingAtOnce();
-    void verticesStayBetweenTheirNeighbours();
-    void tangentsOfSmoothVerticesTurnTogetherOnScreen();
-    void smoothingGivesAndAlignsTangents();
-    void gapsSplitThePathAndSurviveRemovals();
-    void anAddedVertexKeepsTheShape();
-    void theCurveNeverTurnsBackAndItsBoundsAreTight();
-    void unusableInputChangesNothing_data();
-    void unusableInputChangesNothing();
-};
-
-namespace {
-
 /// Does random things to a model and knows each vertex by the height that it gave it.
 class Walk
 {
@@ -107,8 +85,7 @@ public:
     {
         const int kind = random_.bounded(100);
         if (kind < 45 || model.vertexCount() == 0) {
-            const bool split = kind < 5;
-            if (split)
+            if (kind < 5)
                 model.addVertex(float(random_.generateDouble()));
             else
                 added = model.insertVertex({QPointF(random_.generateDouble(), 0)});
@@ -151,9 +128,8 @@ public:
                 .arg(index)
                 .arg(told.size())
                 .arg(model.vertexCount());
-        int valid = 0;
-        for (auto it = heights.keyBegin(); it != heights.keyEnd(); ++it)
-            valid += it->isValid();
+        const auto valid = std::count_if(heights.keyBegin(), heights.keyEnd(),
+                                         [](const auto &handle) { return handle.isValid(); });
         return valid == index ? QString() : QStringLiteral("%1 handles are valid").arg(valid);
     }
 
@@ -182,6 +158,26 @@ private:
 };
 
 } // namespace
+
+class CurveModelTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRandomWalkKeepsHandlesAndOrder();
+    void changesInsideSignalsReachLateListenersInStep();
+    void listenersMayDeleteTheModel();
+    void handlesOfDeadVerticesAreHarmless();
+    void aLoadReplacesEverythingAtOnce();
+    void verticesStayBetweenTheirNeighbours();
+    void tangentsOfSmoothVerticesTurnTogetherOnScreen();
+    void smoothingGivesAndAlignsTangents();
+    void gapsSplitThePathAndSurviveRemovals();
+    void anAddedVertexKeepsTheShape();
+    void theCurveNeverTurnsBackAndItsBoundsAreTight();
+    void unusableInputChangesNothing_data();
+    void unusableInputChangesNothing();
+};
 
 void CurveModelTest::aRandomWalkKeepsHandlesAndOrder()
 {
@@ -469,11 +465,8 @@ void CurveModelTest::theCurveNeverTurnsBackAndItsBoundsAreTight()
     }
 }
 
-using Input = std::tuple<int, ZelVertexData, QVariant, Text>;
-
 void CurveModelTest::unusableInputChangesNothing_data()
 {
-    constexpr auto unknown = ZelVertexData(3);
     const char *const numbers = "points that are not finite are ignored";
     addRows<Input>({
         {"no number", {1, position, QPointF(notANumber, 1), numbers}},
@@ -482,7 +475,7 @@ void CurveModelTest::unusableInputChangesNothing_data()
         {"empty position", {1, position, QVariant(), "not a point"}},
         {"before the first", {-1, position, QPointF(), "no vertex -1"}},
         {"behind the last", {3, position, QPointF(), "no vertex 3"}},
-        {"unknown key", {1, unknown, QPointF(), "no data of key 3"}},
+        {"unknown key", {1, ZelVertexData(3), QPointF(), "no data of key 3"}},
     });
 }
 
