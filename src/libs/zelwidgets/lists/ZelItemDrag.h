@@ -8,6 +8,7 @@
 #include <QSize>
 
 #include <functional>
+#include <optional>
 
 class QAbstractItemModel;
 class QAbstractItemView;
@@ -44,9 +45,21 @@ QPixmap pictureOf(const QModelIndexList &indices, int role, qreal pixelRatio);
 /// Drags what the model says of the indices, with their pictures; nothing if it says nothing.
 void start(QAbstractItemView *view, const QModelIndexList &indices, int pictureRole);
 
-/// Asks for a tool tip, or for its end, on the events that tell so.
-void hearToolTips(const QAbstractItemView *view, const QEvent *event,
-                  const std::function<void(const QModelIndex &)> &show,
-                  const std::function<void()> &hide);
+/// What an event says of tool tips: that the one of this index is wanted, none of an invalid index;
+/// most say nothing.
+std::optional<QModelIndex> toolTipIndex(const QAbstractItemView *view, const QEvent *event);
+
+/// Tells by the signals of the view that a tool tip is wanted or no longer wanted.
+template <typename View>
+void hearToolTips(View *view, const QEvent *event)
+{
+    const std::optional<QModelIndex> index = toolTipIndex(view, event);
+    if (!index)
+        return;
+    if (index->isValid())
+        Q_EMIT view->toolTipRequested(*index);
+    else
+        Q_EMIT view->toolTipHideRequest();
+}
 
 } // namespace ZelItemDrag

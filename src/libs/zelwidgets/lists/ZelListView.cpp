@@ -40,9 +40,7 @@ QModelIndexList ZelListView::draggableIndices() const
 
 bool ZelListView::event(QEvent *event)
 {
-    ZelItemDrag::hearToolTips(
-        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
-        [this] { Q_EMIT toolTipHideRequest(); });
+    ZelItemDrag::hearToolTips(this, event);
     return QListView::event(event);
 }
 

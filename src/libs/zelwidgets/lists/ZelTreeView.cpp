@@ -75,9 +75,7 @@ QModelIndexList ZelTreeView::draggableIndices() const
 
 bool ZelTreeView::event(QEvent *event)
 {
-    ZelItemDrag::hearToolTips(
-        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
-        [this] { Q_EMIT toolTipHideRequest(); });
+    ZelItemDrag::hearToolTips(this, event);
     return QTreeView::event(event);
 }
 
