@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QDropEvent>
 #include <QList>
 #include <QModelIndexList>
 #include <QPersistentModelIndex>
 #include <QPixmap>
 #include <QPoint>
+#include <QPointer>
 #include <QSize>
 
 #include <functional>
@@ -12,7 +14,6 @@
 
 class QAbstractItemModel;
 class QAbstractItemView;
-class QDropEvent;
 class QEvent;
 
 /// What the item views share: what is dragged, its picture, where it is dropped, and who asks for
@@ -29,6 +30,24 @@ QList<QPersistentModelIndex> targets(const QAbstractItemView *view, const QModel
 /// Whether any of the targets took the drop. Targets and the model may go while it is handed out.
 bool dropOn(QAbstractItemModel *model, const QDropEvent *event,
             const QList<QPersistentModelIndex> &targets);
+
+/// Drops on the targets, if there are any, between the signals by which the view tells so. False if
+/// the view went meanwhile.
+template <typename View, typename Drop>
+bool dropBetweenSignals(View *view, QDropEvent *event, const QList<QPersistentModelIndex> &targets,
+                        const Drop &drop)
+{
+    const QPointer<View> alive(view);
+    if (targets.isEmpty())
+        return true;
+    Q_EMIT view->beginDropSelection();
+    const bool isTaken = alive && drop(targets);
+    if (alive)
+        Q_EMIT alive->endDropSelection();
+    if (isTaken)
+        event->acceptProposedAction();
+    return !alive.isNull();
+}
 
 /// How many of the items are drawn, and where, in the logical pixels of the picture; the last place
 /// is that of the last item.

@@ -113,18 +113,11 @@ void ZelTreeView::dropEvent(QDropEvent *event)
 
 void ZelTreeView::dropOnSelection(QDropEvent *event)
 {
-    const QPointer<ZelTreeView> self(this);
-    const QList<QPersistentModelIndex> targets =
-        ZelItemDrag::targets(this, selectedIndexes(), event);
-    if (!targets.isEmpty()) {
-        Q_EMIT beginDropSelection();
-        const bool isTaken = self && ZelItemDrag::dropOn(model(), event, targets);
-        if (self)
-            Q_EMIT endDropSelection();
-        if (isTaken)
-            event->acceptProposedAction();
-    }
-    if (!self)
+    const auto drop = [this, event](const QList<QPersistentModelIndex> &targets) {
+        return ZelItemDrag::dropOn(model(), event, targets);
+    };
+    const auto targets = ZelItemDrag::targets(this, selectedIndexes(), event);
+    if (!ZelItemDrag::dropBetweenSignals(this, event, targets, drop))
         return;
     stopAutoScroll();
     setState(NoState);
