@@ -1,4 +1,5 @@
 #include "ColorInputs.h"
+#include "Rows.h"
 
 #include "color/ZelColorHandle.h"
 #include "color/ZelColorStrip.h"
@@ -40,92 +41,73 @@ void TestColorStrips::init()
     policy()->setEnableGammaCorrection(false);
 }
 
+using Range = ZelColorChannel::Range;
+using Description = std::tuple<int, Text, Range, Range, int, Text>;
+
 void TestColorStrips::channelsAreDescribed_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QList<int>>("slider");
-    QTest::addColumn<QList<int>>("field");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("suffix");
-
-    const QString degree = QStringLiteral(" \u00b0");
-    const QString percent = QStringLiteral(" %");
-    const auto add = [](int mode, const char *label, QList<int> slider, QList<int> field,
-                        int decimals, const QString &suffix) {
-        QTest::addRow("%d", mode) << mode << QString::fromLatin1(label) << slider << field
-                                  << decimals << suffix;
-    };
-    add(0, "Red", {0, 255}, {0, 255}, 0, {});
-    add(2, "Blue", {0, 255}, {0, 255}, 0, {});
-    add(3, "Hue", {0, 359}, {0, 359}, 0, degree);
-    add(4, "Saturation", {0, 100}, {0, 100}, 0, percent);
-    add(9, "Black", {0, 100}, {0, 100}, 0, percent);
-    add(10, "Brightness", {0, 100}, {0, 100}, 0, percent);
-    add(11, "L", {0, 100}, {0, 100}, 2, {});
-    add(13, "b", {-128, 128}, {-128, 128}, 2, {});
-    add(14, "Temperature", {2500, 9500}, {0, 100000}, 0, degree);
-    add(15, "", {0, 255}, {0, 255}, 2, {});
-    add(-1, "", {0, 255}, {0, 255}, 2, {});
+    addRows<Description>({
+        {"red", {0, "Red", {0, 255}, {0, 255}, 0, ""}},
+        {"blue", {2, "Blue", {0, 255}, {0, 255}, 0, ""}},
+        {"hue", {3, "Hue", {0, 359}, {0, 359}, 0, " \u00b0"}},
+        {"saturation", {4, "Saturation", {0, 100}, {0, 100}, 0, " %"}},
+        {"black", {9, "Black", {0, 100}, {0, 100}, 0, " %"}},
+        {"brightness", {10, "Brightness", {0, 100}, {0, 100}, 0, " %"}},
+        {"L", {11, "L", {0, 100}, {0, 100}, 2, ""}},
+        {"b", {13, "b", {-128, 128}, {-128, 128}, 2, ""}},
+        {"temperature", {14, "Temperature", {2500, 9500}, {0, 100000}, 0, " \u00b0"}},
+        {"above all", {15, "", {0, 255}, {0, 255}, 2, ""}},
+        {"below all", {-1, "", {0, 255}, {0, 255}, 2, ""}},
+    });
 }
 
 void TestColorStrips::channelsAreDescribed()
 {
-    QFETCH(int, mode);
-    QFETCH(QString, label);
-    QFETCH(QList<int>, slider);
-    QFETCH(QList<int>, field);
-    QFETCH(int, decimals);
-    QFETCH(QString, suffix);
+    const auto [mode, label, slider, field, decimals, suffix] = currentRow<Description>();
     ZelColorSliderEdit edit(orange(), Mode(mode), ZelColorChannel::label(Mode(mode)), false);
     QCOMPARE(sliderOf(&edit)->accessibleName(), label);
-    QCOMPARE((QList<int>{sliderOf(&edit)->minimum(), sliderOf(&edit)->maximum()}), slider);
-    QCOMPARE((QList<int>{int(fieldOf(&edit)->minimum()), int(fieldOf(&edit)->maximum())}), field);
+    QCOMPARE(sliderOf(&edit)->minimum(), slider.minimum);
+    QCOMPARE(sliderOf(&edit)->maximum(), slider.maximum);
+    QCOMPARE(fieldOf(&edit)->minimum(), double(field.minimum));
+    QCOMPARE(fieldOf(&edit)->maximum(), double(field.maximum));
     QCOMPARE(fieldOf(&edit)->decimals(), decimals);
     QCOMPARE(fieldOf(&edit)->suffix(), suffix);
 }
 
+using Channel = std::tuple<Mode, float, float, Space>;
+
 void TestColorStrips::channelsAreReadAndWritten_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<float>("value");
-    QTest::addColumn<float>("other");
-    QTest::addColumn<int>("space");
-
-    const auto add = [](int mode, float value, float other, Space space) {
-        QTest::addRow("%d", mode) << mode << value << other << int(space);
-    };
-    add(0, 204, 17, Space::RGB);
-    add(1, 102, 17, Space::RGB);
-    add(2, 51, 17, Space::RGB);
-    add(3, 20, 333, Space::HSV);
-    add(4, 75, 10, Space::HSV);
-    add(5, 80, 10, Space::HSV);
-    add(6, 0, 40, Space::CMYK);
-    add(7, 50, 40, Space::CMYK);
-    add(8, 75, 40, Space::CMYK);
-    add(9, 20, 40, Space::CMYK);
-    add(10, 80, 40, Space::RGB);
-    add(11, 54.64f, 33.25f, Space::Lab);
-    add(12, 36.906f, -99.5f, Space::Lab);
-    add(13, 46.124f, 12.75f, Space::Lab);
+    addRows<Channel>({
+        {"red", {Mode(0), 204, 17, Space::RGB}},
+        {"green", {Mode(1), 102, 17, Space::RGB}},
+        {"blue", {Mode(2), 51, 17, Space::RGB}},
+        {"hue", {Mode(3), 20, 333, Space::HSV}},
+        {"saturation", {Mode(4), 75, 10, Space::HSV}},
+        {"value", {Mode(5), 80, 10, Space::HSV}},
+        {"cyan", {Mode(6), 0, 40, Space::CMYK}},
+        {"magenta", {Mode(7), 50, 40, Space::CMYK}},
+        {"yellow", {Mode(8), 75, 40, Space::CMYK}},
+        {"black", {Mode(9), 20, 40, Space::CMYK}},
+        {"brightness", {Mode(10), 80, 40, Space::RGB}},
+        {"L", {Mode(11), 54.64f, 33.25f, Space::Lab}},
+        {"a", {Mode(12), 36.906f, -99.5f, Space::Lab}},
+        {"b", {Mode(13), 46.124f, 12.75f, Space::Lab}},
+    });
 }
 
 void TestColorStrips::channelsAreReadAndWritten()
 {
-    QFETCH(int, mode);
-    QFETCH(float, value);
-    QFETCH(float, other);
-    QFETCH(int, space);
+    const auto [mode, value, other, space] = currentRow<Channel>();
     constexpr float limit = 0.02f;
-    const float read = ZelColorChannel::channelValue(Mode(mode), orange());
+    const float read = ZelColorChannel::channelValue(mode, orange());
     QVERIFY2(std::abs(read - value) < limit, qPrintable(QString::number(double(read))));
 
-    const ZelColor written = ZelColorChannel::setChannelValue(Mode(mode), orange(), other);
-    QCOMPARE(int(written.space()), space);
-    QVERIFY(std::abs(ZelColorChannel::channelValue(Mode(mode), written) - other) < limit);
-    const bool isGrey = Mode(mode) == Mode::Brightness;
-    const ZelColor back = ZelColorChannel::setChannelValue(Mode(mode), written, value);
+    const ZelColor written = ZelColorChannel::setChannelValue(mode, orange(), other);
+    QCOMPARE(written.space(), space);
+    QVERIFY(std::abs(ZelColorChannel::channelValue(mode, written) - other) < limit);
+    const bool isGrey = mode == Mode::Brightness;
+    const ZelColor back = ZelColorChannel::setChannelValue(mode, written, value);
     QCOMPARE(areNear(back, orange(), 0.001f), !isGrey);
     if (isGrey)
         QVERIFY(areNear(back, ZelColor(Space::RGB, 0.8f, 0.8f, 0.8f), 1e-6f));

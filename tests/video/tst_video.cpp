@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "TestCase.h"
 
 #include "ZelFrameExtraction.h"
@@ -197,27 +198,23 @@ void VideoTest::makeClip(const QString &path)
     QCOMPARE(QProcess::execute(ZelFrameExtraction::programPath(), arguments), 0);
 }
 
+using Export = std::tuple<Text, Text, Text>;
+
 void VideoTest::aVideoBecomesPictures_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("format");
-    const auto row = [](const char *name, const char *file, const char *base, const char *format) {
-        QTest::newRow(name) << text(file) << text(base) << text(format);
-    };
-    row("png", "clip.mp4", "clip", "PNG");
-    row("jpeg", "clip.mp4", "clip", "JPEG");
-    row("awkward name", "it's 100%d \"\u00fc\".mp4", "it's 100%d \"\u00fc\"", "PNG");
-    row("no base name", ".mp4", "frame", "PNG");
+    addRows<Export>({
+        {"png", {"clip.mp4", "clip", "PNG"}},
+        {"jpeg", {"clip.mp4", "clip", "JPEG"}},
+        {"awkward name", {"it's 100%d \"\u00fc\".mp4", "it's 100%d \"\u00fc\"", "PNG"}},
+        {"no base name", {".mp4", "frame", "PNG"}},
+    });
 }
 
 void VideoTest::aVideoBecomesPictures()
 {
     if (!useRealProgram())
         QSKIP("there is no ffmpeg on this system");
-    QFETCH(QString, name);
-    QFETCH(QString, base);
-    QFETCH(QString, format);
+    const auto [name, base, format] = currentRow<Export>();
     const QString path = folder() + u'/' + name;
     makeClip(path);
     QVERIFY(QDir(folder()).mkdir(text("50% out")));
@@ -234,24 +231,22 @@ void VideoTest::aVideoBecomesPictures()
     QVERIFY(QImage(start + text("12") + suffix) != QImage(result.firstFile));
 }
 
+using Refusal = std::pair<Text, Text>;
+
 void VideoTest::whatIsNoVideoIsRefused_data()
 {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("file");
-    const auto row = [](const char *name, const char *program, const char *file) {
-        QTest::newRow(name) << text(program) << text(file);
-    };
-    row("no program", "", "a.mp4");
-    row("no path", "real", "");
-    row("no file", "real", "none.mp4");
-    row("text", "real", "a.mp4");
-    row("nonsense", "script", "a.mp4");
+    addRows<Refusal>({
+        {"no program", {"", "a.mp4"}},
+        {"no path", {"real", ""}},
+        {"no file", {"real", "none.mp4"}},
+        {"text", {"real", "a.mp4"}},
+        {"nonsense", {"script", "a.mp4"}},
+    });
 }
 
 void VideoTest::whatIsNoVideoIsRefused()
 {
-    QFETCH(QString, program);
-    QFETCH(QString, file);
+    const auto [program, file] = currentRow<Refusal>();
     if (program == QLatin1String("script"))
         writeProgram("head -c 5000 /dev/urandom >&2; kill -9 $$");
     else if (program == QLatin1String("real") && !useRealProgram())
