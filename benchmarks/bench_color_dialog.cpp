@@ -2,9 +2,9 @@
 // updated and painted, in the plane, in the ring of hues and on a slider, beside the same in Qt's
 // own dialog; and opening a dialog, from its construction to its first picture, beside Qt's.
 
+#include "BenchmarkRun.h"
 #include "SheetsUnderTest.h"
 
-#include <ZelCore/ZelSettings>
 #include <ZelSceneGraph/Color>
 #include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelColorDialog>
@@ -15,11 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QColorDialog>
-#include <QFile>
 #include <QMouseEvent>
-#include <QTemporaryDir>
-
-#include <benchmark/benchmark.h>
 
 #include <memory>
 
@@ -139,15 +135,9 @@ BENCHMARK(openPlain)->Name("open/plain")->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    const QTemporaryDir folder;
-    ZelSettings::setStorePath(folder.filePath(QStringLiteral("settings.json")));
-    QFile theme(QStringLiteral(":/res/icon_themes/dark_theme.json"));
-    if (theme.open(QIODevice::ReadOnly))
-        IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
-    qApp->setStyleSheet(SheetsUnderTest::finished(QStringLiteral("Dark")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        IconColorTheme::instance()->loadThemeFile(
+            QStringLiteral(":/res/icon_themes/dark_theme.json"));
+        qApp->setStyleSheet(SheetsUnderTest::finished(QStringLiteral("Dark")));
+    });
 }

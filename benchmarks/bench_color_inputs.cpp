@@ -1,3 +1,4 @@
+#include "BenchmarkRun.h"
 #include "color/ZelColorStrip.h"
 
 #include <ZelWidgets/ZelColorConversion>
@@ -6,8 +7,6 @@
 
 #include <QApplication>
 #include <QImage>
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <cmath>
@@ -94,8 +93,5 @@ BENCHMARK(dragStep<ZelCIELABColorInput>)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv);
 }

@@ -1,6 +1,7 @@
 // Panels full of controls beside the same panels of plain Qt: time and memory of building them, and
 // how often a page of buttons is repainted under the mouse.
 
+#include "BenchmarkRun.h"
 #include "SheetsUnderTest.h"
 
 #include <ZelWidgets/HandleSvgInStyle>
@@ -14,7 +15,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,8 +22,6 @@
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <benchmark/benchmark.h>
 
 #include <malloc.h>
 
@@ -232,45 +230,39 @@ void hoverRepaints(benchmark::State &state, const QString &sheet)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QFile theme(QStringLiteral(ZEL_SOURCE_DIR
-                               "/src/apps/gallery/resources/res/icon_themes/dark_theme.json"));
-    if (!theme.open(QIODevice::ReadOnly))
-        qFatal("can't read the icon theme");
-    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
-    HandleSvgInStyle::prepareHandleSvgIcons();
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        IconColorTheme::instance()->loadThemeFile(QStringLiteral(
+            ZEL_SOURCE_DIR "/src/apps/gallery/resources/res/icon_themes/dark_theme.json"));
+        HandleSvgInStyle::prepareHandleSvgIcons();
 
-    const QString sheet = SheetsUnderTest::finished(QStringLiteral("Dark"));
-    const struct
-    {
-        const char *name;
-        Maker plain;
-        Maker ours;
-    } panels[] = {
-        {"toolButtons", &makeButton<QToolButton>, &makeButton<ZelToolButton>},
-        {"labels", &makeLabel<QLabel>, &makeLabel<ZelLabel>},
-        {"lineEdits", &makeEdit<QLineEdit>, &makeEdit<ZelLineEdit>},
-        {"sections", &makePlainSection, &makeSection},
-    };
-    for (const auto &entry : panels) {
-        const std::string name(entry.name);
-        benchmark::RegisterBenchmark((name + "/noSheet").c_str(), panel, entry.plain, entry.ours,
-                                     QString())
-            ->Iterations(9)
+        const QString sheet = SheetsUnderTest::finished(QStringLiteral("Dark"));
+        const struct
+        {
+            const char *name;
+            Maker plain;
+            Maker ours;
+        } panels[] = {
+            {"toolButtons", &makeButton<QToolButton>, &makeButton<ZelToolButton>},
+            {"labels", &makeLabel<QLabel>, &makeLabel<ZelLabel>},
+            {"lineEdits", &makeEdit<QLineEdit>, &makeEdit<ZelLineEdit>},
+            {"sections", &makePlainSection, &makeSection},
+        };
+        for (const auto &entry : panels) {
+            const std::string name(entry.name);
+            benchmark::RegisterBenchmark((name + "/noSheet").c_str(), panel, entry.plain,
+                                         entry.ours, QString())
+                ->Iterations(9)
+                ->Unit(benchmark::kMillisecond);
+            benchmark::RegisterBenchmark((name + "/sheet").c_str(), panel, entry.plain, entry.ours,
+                                         sheet)
+                ->Iterations(9)
+                ->Unit(benchmark::kMillisecond);
+        }
+        benchmark::RegisterBenchmark("hoverRepaints/noSheet", hoverRepaints, QString())
+            ->Iterations(3)
             ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark((name + "/sheet").c_str(), panel, entry.plain, entry.ours,
-                                     sheet)
-            ->Iterations(9)
+        benchmark::RegisterBenchmark("hoverRepaints/sheet", hoverRepaints, sheet)
+            ->Iterations(3)
             ->Unit(benchmark::kMillisecond);
-    }
-    benchmark::RegisterBenchmark("hoverRepaints/noSheet", hoverRepaints, QString())
-        ->Iterations(3)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("hoverRepaints/sheet", hoverRepaints, sheet)
-        ->Iterations(3)
-        ->Unit(benchmark::kMillisecond);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    });
 }

@@ -1,14 +1,14 @@
 // A drag step on a picture of 24 megapixels, as it is shown in a scroll area: the rectangle moves,
 // or one of its corners does. Beside it the plain way, which composes the whole picture anew.
 
+#include "BenchmarkRun.h"
+
 #include <ZelWidgets/ZelImageCropWidget>
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollArea>
-
-#include <benchmark/benchmark.h>
 
 namespace {
 
@@ -107,18 +107,15 @@ void wholePicture(benchmark::State &state)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::RegisterBenchmark("dragStep/plain", wholePicture)->Unit(benchmark::kMillisecond);
-    for (const bool atCorner : {false, true}) {
-        benchmark::RegisterBenchmark(atCorner ? "dragStep/corner" : "dragStep/move", dragSteps,
-                                     atCorner)
-            ->Arg(4)
-            ->Arg(20)
-            ->Arg(80)
-            ->Unit(benchmark::kMillisecond);
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        benchmark::RegisterBenchmark("dragStep/plain", wholePicture)->Unit(benchmark::kMillisecond);
+        for (const bool atCorner : {false, true}) {
+            benchmark::RegisterBenchmark(atCorner ? "dragStep/corner" : "dragStep/move", dragSteps,
+                                         atCorner)
+                ->Arg(4)
+                ->Arg(20)
+                ->Arg(80)
+                ->Unit(benchmark::kMillisecond);
+        }
+    });
 }

@@ -5,17 +5,17 @@
 // behind it, and with the picture at 1,200 x 800 painted anew. All vertices moved at once. One
 // vertex added and removed. Memory of a vertex (counter, bytes; its allocation overhead included).
 
+#include "BenchmarkRun.h"
+#include "CurveLook.h"
+
 #include <ZelCore/ZelBezierCurveModel>
 #include <ZelWidgets/ZelCurveScene>
-#include <ZelWidgets/ZelCurveView2Style>
 
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QGraphicsItem>
 #include <QGraphicsView>
 #include <QPainter>
-
-#include <benchmark/benchmark.h>
 
 #include <malloc.h>
 
@@ -49,25 +49,6 @@ QList<ZelBezierCurveModel::Vertex> vertices(int count)
     for (int i = 0; i < count; ++i)
         vertices.append({placeOf(i), inOf(placeOf(i)), outOf(placeOf(i))});
     return vertices;
-}
-
-ZelCurveView2Style look()
-{
-    ZelCurveView2Style style;
-    style.backgroundColor = Qt::darkGray;
-    style.defaultCurveColor = Qt::white;
-    style.defaultCurveWidth = 1;
-    style.vertexOutlineColor = Qt::black;
-    style.vertexFillColor = Qt::red;
-    style.vertexPenWidth = 0.1;
-    style.vertexDiameter = 0.7;
-    style.tangentOutlineColor = Qt::black;
-    style.tangentFillColor = Qt::yellow;
-    style.tangentPenWidth = 0.1;
-    style.tangentDiameter = 0.5;
-    style.tangentLineColor = Qt::lightGray;
-    style.tangentLineWidth = 0.1;
-    return style;
 }
 
 /// Moves all of its vertices with one signal.
@@ -106,7 +87,7 @@ private:
 struct Ours
 {
     explicit Ours(int count)
-        : style(look())
+        : style(curveLook())
     {
         scene.setStyle(&style);
         scene.onStyleUpdated();
@@ -138,7 +119,7 @@ struct Plain
     };
 
     explicit Plain(int count)
-        : style(look())
+        : style(curveLook())
     {
         scene.setItemIndexMethod(QGraphicsScene::NoIndex);
         model.setVertices(vertices(count));
@@ -315,7 +296,7 @@ void oneMovedAndPaintedPlain(benchmark::State &state)
 
 void allMovedOurs(benchmark::State &state)
 {
-    ZelCurveView2Style style = look();
+    ZelCurveView2Style style = curveLook();
     WaveModel model(int(state.range(0)));
     ZelCurveScene scene(nullptr);
     scene.setStyle(&style);
@@ -399,8 +380,5 @@ ZEL_BENCH(makeAndMemory<Plain>);
 
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv);
 }

@@ -6,6 +6,9 @@
 // "decorators": what the decorators alone take of such a step, items updated but nothing painted;
 // beside it the texts of the labels as plain items that are made anew.
 
+#include "BenchmarkRun.h"
+#include "CurveLook.h"
+
 #include <ZelCore/ZelBezierCurveModel>
 #include <ZelWidgets/ZelAxisDecorator>
 #include <ZelWidgets/ZelCurveView2>
@@ -21,8 +24,6 @@
 #include <QGraphicsEllipseItem>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-
-#include <benchmark/benchmark.h>
 
 #include <cmath>
 #include <memory>
@@ -47,21 +48,8 @@ QList<ZelBezierCurveModel::Vertex> vertices(int count)
 
 ZelCurveView2Style look()
 {
-    ZelCurveView2Style style;
+    ZelCurveView2Style style = curveLook();
     style.navigable = true;
-    style.backgroundColor = Qt::darkGray;
-    style.defaultCurveColor = Qt::white;
-    style.defaultCurveWidth = 1;
-    style.vertexOutlineColor = Qt::black;
-    style.vertexFillColor = Qt::red;
-    style.vertexPenWidth = 0.1;
-    style.vertexDiameter = 0.7;
-    style.tangentOutlineColor = Qt::black;
-    style.tangentFillColor = Qt::yellow;
-    style.tangentPenWidth = 0.1;
-    style.tangentDiameter = 0.5;
-    style.tangentLineColor = Qt::lightGray;
-    style.tangentLineWidth = 0.1;
     return style;
 }
 
@@ -356,9 +344,5 @@ BENCHMARK(markerUpdate)->Name("decorators/time marker")->Unit(benchmark::kMicros
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv);
 }

@@ -1,13 +1,12 @@
 // What the application's event filter costs off duty, beside a filter that does nothing.
 
+#include "BenchmarkRun.h"
 #include "theme/GlobalEventFilter.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QWidget>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
 
@@ -74,16 +73,13 @@ void registerFor(const char *name, QEvent::Type type)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    GlobalEventFilter *filter = GlobalEventFilter::instance();
-    application.removeEventFilter(filter);
-    registerFor("offDuty/Timer", QEvent::Timer);
-    registerFor("offDuty/UpdateRequest", QEvent::UpdateRequest);
-    registerFor("offDuty/LayoutRequest", QEvent::LayoutRequest);
-    registerFor("offDuty/HoverMove", QEvent::HoverMove);
-    registerFor("offDuty/Paint", QEvent::Paint);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        GlobalEventFilter *filter = GlobalEventFilter::instance();
+        qApp->removeEventFilter(filter);
+        registerFor("offDuty/Timer", QEvent::Timer);
+        registerFor("offDuty/UpdateRequest", QEvent::UpdateRequest);
+        registerFor("offDuty/LayoutRequest", QEvent::LayoutRequest);
+        registerFor("offDuty/HoverMove", QEvent::HoverMove);
+        registerFor("offDuty/Paint", QEvent::Paint);
+    });
 }

@@ -4,6 +4,8 @@
 // Then one edit of a gradient with very many stops, and a step of a drag in the editor, from the
 // mouse event to the painted panel (argument: stops of a kind).
 
+#include "BenchmarkRun.h"
+
 #include <ZelCore/ZelGammaPolicy>
 #include <ZelWidgets/IconColorTheme>
 #include <ZelWidgets/ZelColorConversion>
@@ -16,8 +18,6 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
 
@@ -211,11 +211,9 @@ BENCHMARK(textAndBack)->Arg(8)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    zelmorawidgets_init_resources();
-    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/dark_theme.json"));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        zelmorawidgets_init_resources();
+        IconColorTheme::instance()->loadThemeFile(
+            QStringLiteral(":/res/icon_themes/dark_theme.json"));
+    });
 }

@@ -1,5 +1,6 @@
 // Painting a themed icon beside parsing and rendering an equal document that is coloured already.
 
+#include "BenchmarkRun.h"
 #include "theme/StyleSvgIconEngine.h"
 
 #include <ZelWidgets/IconColorTheme>
@@ -9,8 +10,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QTemporaryFile>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <chrono>
@@ -138,9 +137,5 @@ BENCHMARK(rewriting<true>)->Name("rewritingPrepared")->Unit(benchmark::kMicrosec
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QGuiApplication>(argc, argv);
 }

@@ -2,6 +2,7 @@
 // plain Qt: laid out after a resize and after a zoom step, scrolled and painted; then the picture
 // of a drag of a thousand items.
 
+#include "BenchmarkRun.h"
 #include "lists/ZelItemDrag.h"
 
 #include <ZelWidgets/ZelIconListItemDelegate>
@@ -18,8 +19,6 @@
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
 #include <QTreeView>
-
-#include <benchmark/benchmark.h>
 
 #include <memory>
 
@@ -255,9 +254,5 @@ BENCHMARK(dragPictureAlone)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv);
 }

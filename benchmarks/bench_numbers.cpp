@@ -1,6 +1,7 @@
 // A panel full of number rows beside the same panel of plain Qt: time and memory of building it,
 // showing numbers that did not change, a drag on its way to the owner, numbers to text and back.
 
+#include "BenchmarkRun.h"
 #include "SheetsUnderTest.h"
 
 #include <ZelWidgets/HandleSvgInStyle>
@@ -12,14 +13,11 @@
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
 #include <QTest>
 #include <QVBoxLayout>
-
-#include <benchmark/benchmark.h>
 
 #include <malloc.h>
 
@@ -265,31 +263,25 @@ BENCHMARK(fromTextByLocale);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QFile theme(QStringLiteral(ZEL_SOURCE_DIR
-                               "/src/apps/gallery/resources/res/icon_themes/dark_theme.json"));
-    if (!theme.open(QIODevice::ReadOnly))
-        qFatal("can't read the icon theme");
-    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
-    HandleSvgInStyle::prepareHandleSvgIcons();
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        IconColorTheme::instance()->loadThemeFile(QStringLiteral(
+            ZEL_SOURCE_DIR "/src/apps/gallery/resources/res/icon_themes/dark_theme.json"));
+        HandleSvgInStyle::prepareHandleSvgIcons();
 
-    const QString sheet = SheetsUnderTest::finished(QStringLiteral("Dark"));
-    const struct
-    {
-        const char *suffix;
-        QString sheet;
-    } looks[] = {{"/noSheet", QString()}, {"/sheet", sheet}};
-    for (const auto &look : looks) {
-        const std::string suffix(look.suffix);
-        benchmark::RegisterBenchmark(("panels" + suffix).c_str(), panels, look.sheet)
-            ->Iterations(7)
-            ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark(("updateUnchanged" + suffix).c_str(), updateUnchanged,
-                                     look.sheet)
-            ->Unit(benchmark::kMicrosecond);
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+        const QString sheet = SheetsUnderTest::finished(QStringLiteral("Dark"));
+        const struct
+        {
+            const char *suffix;
+            QString sheet;
+        } looks[] = {{"/noSheet", QString()}, {"/sheet", sheet}};
+        for (const auto &look : looks) {
+            const std::string suffix(look.suffix);
+            benchmark::RegisterBenchmark(("panels" + suffix).c_str(), panels, look.sheet)
+                ->Iterations(7)
+                ->Unit(benchmark::kMillisecond);
+            benchmark::RegisterBenchmark(("updateUnchanged" + suffix).c_str(), updateUnchanged,
+                                         look.sheet)
+                ->Unit(benchmark::kMicrosecond);
+        }
+    });
 }

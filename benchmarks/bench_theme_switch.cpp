@@ -1,5 +1,6 @@
 // The switch of the theme beside QApplication::setStyleSheet() with the same finished sheets.
 
+#include "BenchmarkRun.h"
 #include "SamplePanels.h"
 #include "SheetsUnderTest.h"
 
@@ -11,8 +12,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMainWindow>
-
-#include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <functional>
@@ -99,11 +98,8 @@ BENCHMARK(themeSwitch)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QApplication::setStyle(new ZelmoraStyle);
-    GlobalEventFilter::instance();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runBenchmarks<QApplication>(argc, argv, [] {
+        QApplication::setStyle(new ZelmoraStyle);
+        GlobalEventFilter::instance();
+    });
 }

@@ -1,121 +1,31 @@
-#include "TestCase.h"
-#include "UserInput.h"
-#include "color/ZelColorDialogPlacement.h"
+#include "ColorDialogTool.h"
+#include "Rows.h"
 #include "color/ZelColorHex.h"
 
 #include <ZelCore/ZelGammaPolicy>
 #include <ZelCore/ZelSettings>
-#include <ZelWidgets/ColorSwatchModel>
 #include <ZelWidgets/HexValueLineEdit>
 #include <ZelWidgets/IconColorTheme>
-#include <ZelWidgets/ZelColorConversion>
 #include <ZelWidgets/ZelColorDialog>
 #include <ZelWidgets/ZelColorInput>
 #include <ZelWidgets/ZelColorSlider>
-#include <ZelWidgets/ZelColorSliderEdit>
-#include <ZelWidgets/ZelColorSwatchListView>
-#include <ZelWidgets/ZelColorTriangle>
 #include <ZelWidgets/ZelColorViewer>
 #include <ZelWidgets/ZelComboBox>
-#include <ZelWidgets/ZelEyeDropper>
 #include <ZelWidgets/ZelHueSlider>
-#include <ZelWidgets/ZelIntegerSlider>
-#include <ZelWidgets/ZelIntegerSliderEdit>
-#include <ZelWidgets/ZelListWithAddition>
-#include <ZelWidgets/ZelMultiColorListModel>
 #include <ZelWidgets/ZelMultiColorTreeView>
 #include <ZelWidgets/ZelRGBSpectrum>
 #include <ZelWidgets/ZelRGBSpectrumDisplay>
-#include <ZelWidgets/ZelToolButton>
 
 #include <QAction>
 #include <QClipboard>
 #include <QDialogButtonBox>
-#include <QFile>
-#include <QLabel>
 #include <QMenu>
-#include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
-#include <QStackedWidget>
 
 #include <cmath>
 #include <limits>
 
 namespace {
-
-using Space = ZelColor::Space;
-
-const ZelColor teal(Space::RGB, 0.1F, 0.5F, 0.4F);
-
-/// A dialog with its parts and what it told its owner.
-struct Tool
-{
-    explicit Tool(const zelsg::Color &color = teal, const QString &name = QStringLiteral("Teal"))
-        : dialog(std::make_unique<ZelColorDialog>(nullptr, color, name, nullptr))
-        , changed(dialog.get(), &ZelColorDialog::colorChanged)
-        , finished(dialog.get(), &QDialog::finished)
-    {}
-
-    template <typename Part>
-    Part *part() const
-    {
-        return dialog->findChild<Part *>();
-    }
-    void show()
-    {
-        dialog->show();
-        dialog->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
-    }
-    QLineEdit *nameEdit() const
-    {
-        for (QLabel *label : dialog->findChildren<QLabel *>()) {
-            if (label->text() == QStringLiteral("Name"))
-                return qobject_cast<QLineEdit *>(label->buddy());
-        }
-        return nullptr;
-    }
-    QAbstractButton *button(const QString &toolTip) const
-    {
-        for (QAbstractButton *button : dialog->findChildren<QAbstractButton *>()) {
-            if (button->toolTip() == toolTip)
-                return button;
-        }
-        return nullptr;
-    }
-    QAction *action(const QString &text) const
-    {
-        for (QAction *action : dialog->findChildren<QAction *>()) {
-            if (action->text() == text)
-                return action;
-        }
-        return nullptr;
-    }
-    /// The stack that holds a widget.
-    QStackedWidget *stackOf(QWidget *page) const
-    {
-        return qobject_cast<QStackedWidget *>(page->parentWidget());
-    }
-    void press(QDialogButtonBox::StandardButton which) const
-    {
-        part<QDialogButtonBox>()->button(which)->click();
-    }
-    void typeHex(const QString &text) const
-    {
-        auto *edit = part<HexValueLineEdit>();
-        edit->setFocus();
-        edit->clear();
-        QTest::keyClicks(edit, text);
-        QTest::keyClick(edit, Qt::Key_Return);
-    }
-    ZelColor active() const { return dialog->getColor().getActive(); }
-    QString hex() const { return part<HexValueLineEdit>()->text(); }
-
-    std::unique_ptr<ZelColorDialog> dialog;
-    QSignalSpy changed;
-    QSignalSpy finished;
-};
 
 ZelColor named(ZelColor color, const char *name)
 {
@@ -130,16 +40,6 @@ zelsg::Color several()
     return color;
 }
 
-QString onDisplay(const ZelColor &color)
-{
-    return toQColor(ZelGammaPolicy::get()->gammaCorrect(color)).name();
-}
-
-bool isSame(const ZelColor &one, const ZelColor &other)
-{
-    return one.space() == other.space() && one.components() == other.components();
-}
-
 } // namespace
 
 class ColorDialogTest : public TestCase
@@ -151,8 +51,6 @@ private Q_SLOTS:
     void cleanup();
     void hexIsReadAndWritten_data();
     void hexIsReadAndWritten();
-    void windowIsPlaced_data();
-    void windowIsPlaced();
     void hexIsTyped();
     void hexFieldIsLeftAlone();
     void colorTextIsPasted_data();
@@ -162,27 +60,13 @@ private Q_SLOTS:
     void hueIsKeptInOneWidget();
     void lookingChangesNothing();
     void cancelGivesTheFirstColorBack();
-    void nameBelongsToTheColor();
-    void emptyNameIsRefused();
     void gammaSwitches();
-    void choicesAreRemembered();
-    void damagedSettingsAreSurvived();
-    void sizeIsRemembered();
-    void subColors();
-    void swatchesAreTaken();
-    void viewerGivesTheOldColor();
-    void transparencyIsAlpha();
-    void colorIsPicked_data();
-    void colorIsPicked();
     void brokenNumbersAreSurvived();
-    void buttonsHaveTheirRank();
 };
 
 void ColorDialogTest::initTestCase()
 {
-    QFile theme(QStringLiteral(":/res/icon_themes/light_theme.json"));
-    QVERIFY(theme.open(QIODevice::ReadOnly));
-    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
+    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/light_theme.json"));
 }
 
 void ColorDialogTest::cleanup()
@@ -192,66 +76,27 @@ void ColorDialogTest::cleanup()
     TestCase::cleanup();
 }
 
+using HexRow = std::pair<Text, Text>;
+
 void ColorDialogTest::hexIsReadAndWritten_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("written");
-    QTest::newRow("six") << "c08040"
-                         << "C08040";
-    QTest::newRow("three") << "F00"
-                           << "FF0000";
-    QTest::newRow("one") << "F"
-                         << "F00000";
-    QTest::newRow("marks") << "##a#bc"
-                           << "AABBCC";
-    QTest::newRow("four") << "1234"
-                          << "123400";
-    QTest::newRow("none") << ""
-                          << "000000";
-    QTest::newRow("other letters") << "zz8-ff"
-                                   << "0000FF";
+    addRows<HexRow>({
+        {"six", {"c08040", "C08040"}},
+        {"three", {"F00", "FF0000"}},
+        {"one", {"F", "F00000"}},
+        {"marks", {"##a#bc", "AABBCC"}},
+        {"four", {"1234", "123400"}},
+        {"none", {"", "000000"}},
+        {"other letters", {"zz8-ff", "0000FF"}},
+    });
 }
 
 void ColorDialogTest::hexIsReadAndWritten()
 {
-    QFETCH(QString, text);
-    QTEST(ZelColorHex::write(ZelColorHex::read(text)), "written");
+    const auto [text, written] = currentRow<HexRow>();
+    QCOMPARE(ZelColorHex::write(ZelColorHex::read(text)), written);
     constexpr float infinity = std::numeric_limits<float>::infinity();
     QCOMPARE(ZelColorHex::write({Space::RGB, 1.5F, -1, infinity}), QStringLiteral("FF0000"));
-}
-
-void ColorDialogTest::windowIsPlaced_data()
-{
-    QTest::addColumn<QRect>("window");
-    QTest::addColumn<QRect>("area");
-    QTest::addColumn<QPoint>("place");
-    const QRect area(0, 20, 1000, 780);
-    QTest::newRow("fits") << QRect(100, 100, 300, 400) << area << QPoint(100, 100);
-    QTest::newRow("right") << QRect(750, 100, 300, 400) << area << QPoint(690, 100);
-    QTest::newRow("below") << QRect(100, 500, 300, 400) << area << QPoint(100, 360);
-    QTest::newRow("above") << QRect(100, 5, 300, 400) << area << QPoint(100, 30);
-    QTest::newRow("too high") << QRect(100, 100, 300, 900) << area << QPoint(100, 30);
-    QTest::newRow("screen above") << QRect(9, -795, 300, 400) << area.translated(0, -800)
-                                  << QPoint(9, -750);
-    QTest::newRow("no screen") << QRect(-9, -9, 300, 400) << QRect() << QPoint(-9, -9);
-}
-
-void ColorDialogTest::windowIsPlaced()
-{
-    using namespace ZelColorDialogPlacement;
-    QFETCH(QRect, window);
-    QFETCH(QRect, area);
-    QTEST(keptOn(area, window), "place");
-    const QSize hint(301, 400);
-    const QSize desk(1600, 1000);
-    QCOMPARE(windowSize({}, {96, 96}, hint, desk), QSize(376, 500));
-    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 500}), QSize(376, 430));
-    QCOMPARE(windowSize({}, {96, 96}, hint, {1600, 400}), QSize(376, 500));
-    QCOMPARE(windowSize({qQNaN(), 5}, {96, 96}, hint, desk), QSize(376, 500));
-    QCOMPARE(windowSize({4, 5}, {100, 120}, hint, desk), QSize(400, 600));
-    QCOMPARE(windowSize({1, 1}, {96, 96}, hint, desk), hint);
-    QCOMPARE(windowSize({1e300, 5}, {96, 96}, hint, desk), QSize(1600, 480));
-    QVERIFY(windowSize({1e300, 1e300}, {96, 96}, hint, {}).width() < 40000);
 }
 
 void ColorDialogTest::hexIsTyped()
@@ -290,26 +135,22 @@ void ColorDialogTest::hexFieldIsLeftAlone()
     QVERIFY(tool.changed.isEmpty());
 }
 
+using PasteRow = std::tuple<Text, Text>;
+
 void ColorDialogTest::colorTextIsPasted_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("short") << " #369 "
-                           << "#336699";
-    QTest::newRow("long") << "#Ff8000"
-                          << "#ff8000";
-    QTest::newRow("rgb()") << "rgb(51, 102, 153)"
-                           << "#336699";
-    QTest::newRow("percent") << "100%, 0%, 20%"
-                             << "#ff0033";
-    QTest::newRow("name") << "tomato"
-                          << "#ff6347";
+    addRows<PasteRow>({
+        {"short", {" #369 ", "#336699"}},
+        {"long", {"#Ff8000", "#ff8000"}},
+        {"rgb()", {"rgb(51, 102, 153)", "#336699"}},
+        {"percent", {"100%, 0%, 20%", "#ff0033"}},
+        {"name", {"tomato", "#ff6347"}},
+    });
 }
 
 void ColorDialogTest::colorTextIsPasted()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, shown);
+    const auto [text, shown] = currentRow<PasteRow>();
     for (const bool isByMenu : {false, true}) {
         Tool tool;
         tool.show();
@@ -469,55 +310,6 @@ void ColorDialogTest::cancelGivesTheFirstColorBack()
     QVERIFY(isSame(tool.changed.last()[0].value<zelsg::Color>().getActive(), accepted));
 }
 
-void ColorDialogTest::nameBelongsToTheColor()
-{
-    Tool tool;
-    QCOMPARE(tool.nameEdit()->text(), QStringLiteral("Teal"));
-    tool.nameEdit()->setText(QStringLiteral("  Deep   sea "));
-    QCOMPARE(tool.changed.size(), 1);
-    QCOMPARE(tool.dialog->getColor().getColorName(), std::string("Deep sea"));
-    const QSignalSpy saved(tool.dialog.get(), &ZelColorDialog::saveColorToLibrary);
-    auto *button = tool.button(QStringLiteral("Save color to library"));
-    QVERIFY(button->isHidden());
-    tool.dialog->showSaveToLibraryButton();
-    QVERIFY(!button->isHidden());
-    button->click();
-    QCOMPARE(saved[0][0].value<zelsg::Color>().getColorName(), std::string("Deep sea"));
-    tool.dialog->hideNameEdit();
-    QVERIFY(tool.nameEdit()->isHidden());
-}
-
-void ColorDialogTest::emptyNameIsRefused()
-{
-    Tool tool(teal, QString());
-    tool.dialog->checkEmptyNameAtOk(true);
-    tool.show();
-    const QSignalSpy saved(tool.dialog.get(), &ZelColorDialog::saveColorToLibrary);
-    QStringList titles;
-    const auto answer = [&](QDialog *box) {
-        titles.append(box->windowTitle());
-        box->accept();
-    };
-    {
-        UserInput::DialogAnswer box(answer);
-        tool.button(QStringLiteral("Save color to library"))->click();
-        QVERIFY(box.finished());
-    }
-    {
-        UserInput::DialogAnswer box(answer);
-        tool.press(QDialogButtonBox::Ok);
-        QVERIFY(box.finished());
-    }
-    QCOMPARE(titles, QStringList({QStringLiteral("Add Color"), QStringLiteral("Color Name")}));
-    QVERIFY(saved.isEmpty() && tool.finished.isEmpty());
-    QCOMPARE(tool.dialog->focusWidget(), tool.nameEdit());
-    {
-        UserInput::DialogAnswer box([&](QDialog *) { tool.dialog.reset(); });
-        tool.dialog->accept();
-        QVERIFY(box.finished());
-    }
-}
-
 void ColorDialogTest::gammaSwitches()
 {
     Tool tool;
@@ -554,203 +346,6 @@ void ColorDialogTest::gammaSwitches()
     QVERIFY(tool.changed.isEmpty());
 }
 
-void ColorDialogTest::choicesAreRemembered()
-{
-    const ZelSettings settings(QStringLiteral("ColorDialog"));
-    {
-        Tool tool;
-        tool.dialog->showKelvinAsDefaultColorInput(true);
-        QCOMPARE(tool.part<ZelComboBox>()->currentIndex(), 5);
-        QVERIFY(!settings.hasKey(QStringLiteral("slider")));
-        tool.show();
-        QTest::keyClick(tool.part<ZelComboBox>(), Qt::Key_Up);
-        tool.action(QStringLiteral("Use Triadic Color Wheel"))->trigger();
-    }
-    Tool tool;
-    tool.dialog->setColorInputIndex(99);
-    auto *lab = tool.part<ZelCIELABColorInput>();
-    QCOMPARE(tool.stackOf(lab)->currentWidget(), lab);
-    QCOMPARE(tool.part<ZelComboBox>()->currentText(), QStringLiteral("CIE-L*ab"));
-    auto *wheel = tool.part<ZelColorTriangle>();
-    QCOMPARE(tool.stackOf(wheel)->currentWidget(), wheel);
-    QVERIFY(tool.action(QStringLiteral("Use Triadic Color Wheel"))->isChecked());
-    QVERIFY(!tool.action(QStringLiteral("Use Hue Color Field"))->isChecked());
-}
-
-void ColorDialogTest::damagedSettingsAreSurvived()
-{
-    ZelSettings settings(QStringLiteral("ColorDialog"));
-    const QVariantList broken{-1, 7, QStringLiteral("x"), QSizeF(1, 1), QVariantList{1}};
-    for (const QVariant &value : broken) {
-        for (const char *key : {"spectrum", "slider", "inchSize"})
-            settings.setValue(QLatin1String(key), value);
-        Tool tool;
-        tool.show();
-        QCOMPARE(tool.part<ZelComboBox>()->currentIndex(), 0);
-        QVERIFY(tool.part<ZelRGBSpectrumDisplay>()->isVisible());
-        QVERIFY(tool.dialog->width() >= tool.dialog->sizeHint().width());
-    }
-}
-
-void ColorDialogTest::sizeIsRemembered()
-{
-    QSize size;
-    {
-        Tool tool;
-        tool.show();
-        const QSize hint = tool.dialog->sizeHint();
-        QCOMPARE(tool.dialog->size(),
-                 QSize(qRound(hint.width() * 1.25), qRound(hint.height() * 1.25)));
-        size = hint + QSize(17, 3);
-        tool.dialog->resize(size);
-        tool.dialog->hide();
-        const QScreen *screen = tool.dialog->screen();
-        const QSizeF inches =
-            ZelSettings(QStringLiteral("ColorDialog")).value(QStringLiteral("inchSize")).toSizeF();
-        QCOMPARE(inches.width() * screen->physicalDotsPerInchX(), qreal(size.width()));
-        // From now on the place is the user's.
-        tool.dialog->move(111, 122);
-        tool.dialog->show();
-        QCOMPARE(tool.dialog->pos(), QPoint(111, 122));
-    }
-    const QPoint place(60, 40);
-    ZelColorDialog there(place, zelsg::Color(), QString(), nullptr);
-    there.show();
-    QCOMPARE(there.size(), size);
-    QCOMPARE(there.pos().x(), place.x());
-    QWidget owner;
-    owner.setGeometry(50, 30, 200, 20);
-    owner.show();
-    ZelColorDialog below(&owner, zelsg::Color(), QString(), nullptr);
-    below.show();
-    QCOMPARE(below.pos().x(), owner.mapToGlobal(QPoint()).x());
-}
-
-void ColorDialogTest::subColors()
-{
-    Tool tool;
-    tool.dialog->showMakeMultiColorButton();
-    tool.show();
-    auto *tree = tool.part<ZelMultiColorTreeView>();
-    QVERIFY(!tree->isVisible());
-    tool.button(QStringLiteral("Make multi-color"))->click();
-    QVERIFY(tree->isVisible() && tool.dialog->getColor().isMultiColor());
-    QVERIFY(tool.button(QStringLiteral("Unmake multi-color"))->isChecked());
-    QVERIFY(tool.changed.last()[0].value<zelsg::Color>().isMultiColor());
-    tool.button(QStringLiteral("Add a sub-color"))->click();
-    QCOMPARE(tree->model()->rowCount(), 2);
-    QCOMPARE(tool.dialog->getColor().activeIndex(), 1);
-    tool.typeHex(QStringLiteral("FF0000"));
-    QVERIFY(isSame(tree->color().getColor(1), tool.active()));
-
-    // Another row makes its colour the shown one, and the owner hears of it.
-    tool.changed.clear();
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
-                      tree->visualRect(tree->model()->index(0, 1)).center());
-    QCOMPARE(tool.changed.size(), 1);
-    QCOMPARE(tool.changed[0][0].value<zelsg::Color>().activeIndex(), 0);
-    QVERIFY(isSame(tool.part<ZelColorViewer>()->color(), teal));
-    QCOMPARE(u'#' + tool.hex().toLower(), onDisplay(teal));
-    tree->deleteCurrent();
-    QCOMPARE(tool.changed.size(), 2);
-    QCOMPARE(tool.hex(), QStringLiteral("FF0000"));
-    tool.changed.clear();
-    tree->model()->setData(tree->model()->index(0, ZelMultiColorListModel::NameColumn),
-                           QStringLiteral("Coat"));
-    QCOMPARE(tool.changed.size(), 1);
-    QCOMPARE(tool.changed[0][0].value<zelsg::Color>().getName(0), std::string("Coat"));
-
-    tool.button(QStringLiteral("Unmake multi-color"))->click();
-    QVERIFY(!tree->isVisible() && !tool.dialog->getColor().isMultiColor());
-    tool.dialog->reject();
-    QVERIFY(isSame(tool.changed.last()[0].value<zelsg::Color>().getActive(), teal));
-}
-
-void ColorDialogTest::swatchesAreTaken()
-{
-    Tool tool;
-    tool.show();
-    auto *list = tool.part<ZelColorSwatchListView>();
-    tool.button(QStringLiteral("Add picked color to swatch list"))->click();
-    QVERIFY(list->swatchModel()->colors().back() == teal);
-    const auto place = [list](int row) {
-        return list->visualRect(list->model()->index(row, 0)).center();
-    };
-    list->scrollToTop();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place(2));
-    QCOMPARE(tool.dialog->getColorName(), QStringLiteral("Blue sky"));
-    QVERIFY(tool.active() == fromQColor(QColor(0x62, 0x7a, 0x9d)));
-    QVERIFY(tool.dialog->isVisible());
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place(3));
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place(3));
-    QCOMPARE(tool.finished.last()[0].toInt(), int(QDialog::Accepted));
-    QCOMPARE(tool.dialog->getColorName(), QStringLiteral("Foliage"));
-}
-
-void ColorDialogTest::viewerGivesTheOldColor()
-{
-    Tool tool;
-    tool.show();
-    tool.typeHex(QStringLiteral("00FF00"));
-    auto *viewer = tool.part<ZelColorViewer>();
-    Q_EMIT viewer->colorSelected(viewer->oldColor());
-    QVERIFY(isSame(tool.active(), teal));
-    QVERIFY(isSame(viewer->color(), teal));
-    QVERIFY(tool.dialog->isVisible());
-    Q_EMIT viewer->doubleClick(ZelColor(Space::RGB, 0, 0, 1));
-    QCOMPARE(tool.finished.last()[0].toInt(), int(QDialog::Accepted));
-    QCOMPARE(tool.dialog->getQColor().name(), QStringLiteral("#0000ff"));
-    tool.dialog->hideOldNewSelector();
-    QVERIFY(viewer->isHidden());
-}
-
-void ColorDialogTest::transparencyIsAlpha()
-{
-    Tool tool;
-    auto *row = tool.part<ZelIntegerSliderEdit>();
-    QVERIFY(row->isHidden());
-    QCOMPARE(tool.dialog->getQColor(), toQColor(teal));
-    tool.dialog->setTransparency(0.6F);
-    QVERIFY(!row->isHidden());
-    QVERIFY(std::abs(tool.dialog->getQColor().alphaF() - 0.6F) < 1e-4F);
-    QVERIFY(tool.changed.isEmpty());
-    tool.show();
-    QTest::keyClick(row->sliderWdg(), Qt::Key_End);
-    QCOMPARE(tool.dialog->getQColor().alpha(), 0);
-    QVERIFY(!tool.changed.isEmpty());
-    tool.dialog->setTransparency(7);
-    QCOMPARE(tool.dialog->getQColor().alpha(), 255);
-    messages().expect(QtWarningMsg, QStringLiteral("transparency"));
-    tool.dialog->setTransparency(std::numeric_limits<float>::quiet_NaN());
-    QCOMPARE(tool.dialog->getQColor().alpha(), 255);
-}
-
-void ColorDialogTest::colorIsPicked_data()
-{
-    QTest::addColumn<bool>("isTaken");
-    QTest::newRow("taken") << true;
-    QTest::newRow("cancelled") << false;
-}
-
-void ColorDialogTest::colorIsPicked()
-{
-    QFETCH(bool, isTaken);
-    Tool tool;
-    tool.show();
-    const ZelColor picked(Space::RGB, 0.25F, 0.5F, 0.75F);
-    UserInput::DialogAnswer answer([&](QDialog *box) {
-        Q_EMIT qobject_cast<ZelEyeDropper *>(box)->colorSelected(picked);
-        QVERIFY(isSame(tool.active(), picked));
-        QVERIFY(tool.changed.isEmpty());
-        box->done(isTaken ? QDialog::Accepted : QDialog::Rejected);
-    });
-    tool.button(QStringLiteral("Pick a color"))->click();
-    QVERIFY(answer.finished());
-    QVERIFY(isSame(tool.active(), isTaken ? picked : teal));
-    QCOMPARE(tool.changed.size(), isTaken ? 1 : 0);
-    QTRY_VERIFY(!tool.part<ZelEyeDropper>());
-}
-
 void ColorDialogTest::brokenNumbersAreSurvived()
 {
     constexpr float nan = std::numeric_limits<float>::quiet_NaN();
@@ -771,21 +366,5 @@ void ColorDialogTest::brokenNumbersAreSurvived()
     QCOMPARE(u'#' + tool.hex().toLower(), onDisplay(teal));
 }
 
-void ColorDialogTest::buttonsHaveTheirRank()
-{
-    qApp->setStyleSheet(QStringLiteral("QPushButton[rank=\"Primary\"] { min-width: 300px; }"
-                                       "QPushButton[rank=\"Tertiary\"] { min-width: 200px; }"));
-    {
-        Tool tool;
-        tool.show();
-        auto *box = tool.part<QDialogButtonBox>();
-        QVERIFY(box->button(QDialogButtonBox::Ok)->width() >= 300);
-        const int cancelWidth = box->button(QDialogButtonBox::Cancel)->width();
-        QVERIFY(cancelWidth >= 200 && cancelWidth < 300);
-    }
-    qApp->setStyleSheet(QString());
-}
-
 ZEL_TEST_MAIN(ColorDialogTest)
-
 #include "tst_color_dialog.moc"

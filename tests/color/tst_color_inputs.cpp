@@ -1,19 +1,14 @@
-#include "TestCase.h"
+#include "ColorInputs.h"
 #include "UserInput.h"
 
 #include "color/ZelColorHandle.h"
-#include "color/ZelColorStrip.h"
 
-#include <ZelCore/ZelGammaPolicy>
-#include <ZelWidgets/ZelColorConversion>
 #include <ZelWidgets/ZelColorInput>
-#include <ZelWidgets/ZelColorLineEdit>
 #include <ZelWidgets/ZelColorSliderEdit>
 #include <ZelWidgets/ZelHueSlider>
 
 #include <QAccessible>
 #include <QDialog>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
@@ -21,56 +16,9 @@
 
 #include <cmath>
 #include <functional>
-#include <limits>
 #include <memory>
 
-using Mode = ZelColorChannel::Mode;
-using Space = ZelColor::Space;
-
 namespace {
-
-constexpr ZelColorChannel::Range kelvins{2500, 9500};
-
-const ZelColor &orange()
-{
-    static const ZelColor color(Space::RGB, 0.8f, 0.4f, 0.2f);
-    return color;
-}
-
-ZelGammaPolicy *policy()
-{
-    return ZelGammaPolicy::get();
-}
-
-bool areNear(const ZelColor &one, const ZelColor &other, float limit)
-{
-    const std::array<float, 3> a = one.toRGB();
-    const std::array<float, 3> b = other.toRGB();
-    return std::abs(a[0] - b[0]) < limit && std::abs(a[1] - b[1]) < limit &&
-           std::abs(a[2] - b[2]) < limit;
-}
-
-bool areNear(QRgb one, QRgb other, int limit)
-{
-    return std::abs(qRed(one) - qRed(other)) <= limit &&
-           std::abs(qGreen(one) - qGreen(other)) <= limit &&
-           std::abs(qBlue(one) - qBlue(other)) <= limit;
-}
-
-ZelColorSliderEdit *row(QWidget *input, int index)
-{
-    return input->findChildren<ZelColorSliderEdit *>().at(index);
-}
-
-QSlider *sliderOf(QWidget *row)
-{
-    return row->findChild<ZelColorSlider *>();
-}
-
-QDoubleSpinBox *fieldOf(QWidget *row)
-{
-    return row->findChild<ZelColorLineEdit *>();
-}
 
 void enter(QDoubleSpinBox *field, const QString &text)
 {
@@ -94,20 +42,9 @@ class TestColorInputs : public TestCase
 
 private Q_SLOTS:
     void init();
-    void channelsAreDescribed_data();
-    void channelsAreDescribed();
-    void channelsAreReadAndWritten_data();
-    void channelsAreReadAndWritten();
-    void stripsShowTheirChannel_data();
-    void stripsShowTheirChannel();
-    void stripsTakeTheDisplaysGamma();
-    void stripsTakeAnyColor();
-    void colorsAreConverted();
-    void handleStaysOnTheStrip();
     void mouseGoesWhereItIs();
     void hueSliderIsUpright();
     void keysGoByParts();
-    void handleLiesOnTheStrip();
     void fieldAndSliderGoInStep();
     void fieldsOfADialogKeepReturn();
     void inputsSpeakTheirSpace_data();
@@ -124,240 +61,6 @@ void TestColorInputs::init()
 {
     TestCase::init();
     policy()->setEnableGammaCorrection(false);
-}
-
-void TestColorInputs::channelsAreDescribed_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QList<int>>("slider");
-    QTest::addColumn<QList<int>>("field");
-    QTest::addColumn<int>("decimals");
-    QTest::addColumn<QString>("suffix");
-
-    const QString degree = QStringLiteral(" \u00b0");
-    const QString percent = QStringLiteral(" %");
-    const auto add = [](int mode, const char *label, QList<int> slider, QList<int> field,
-                        int decimals, const QString &suffix) {
-        QTest::addRow("%d", mode) << mode << QString::fromLatin1(label) << slider << field
-                                  << decimals << suffix;
-    };
-    add(0, "Red", {0, 255}, {0, 255}, 0, {});
-    add(2, "Blue", {0, 255}, {0, 255}, 0, {});
-    add(3, "Hue", {0, 359}, {0, 359}, 0, degree);
-    add(4, "Saturation", {0, 100}, {0, 100}, 0, percent);
-    add(9, "Black", {0, 100}, {0, 100}, 0, percent);
-    add(10, "Brightness", {0, 100}, {0, 100}, 0, percent);
-    add(11, "L", {0, 100}, {0, 100}, 2, {});
-    add(13, "b", {-128, 128}, {-128, 128}, 2, {});
-    add(14, "Temperature", {2500, 9500}, {0, 100000}, 0, degree);
-    add(15, "", {0, 255}, {0, 255}, 2, {});
-    add(-1, "", {0, 255}, {0, 255}, 2, {});
-}
-
-void TestColorInputs::channelsAreDescribed()
-{
-    QFETCH(int, mode);
-    QFETCH(QString, label);
-    QFETCH(QList<int>, slider);
-    QFETCH(QList<int>, field);
-    QFETCH(int, decimals);
-    QFETCH(QString, suffix);
-    ZelColorSliderEdit edit(orange(), Mode(mode), ZelColorChannel::label(Mode(mode)), false);
-    QCOMPARE(sliderOf(&edit)->accessibleName(), label);
-    QCOMPARE((QList<int>{sliderOf(&edit)->minimum(), sliderOf(&edit)->maximum()}), slider);
-    QCOMPARE((QList<int>{int(fieldOf(&edit)->minimum()), int(fieldOf(&edit)->maximum())}), field);
-    QCOMPARE(fieldOf(&edit)->decimals(), decimals);
-    QCOMPARE(fieldOf(&edit)->suffix(), suffix);
-}
-
-void TestColorInputs::channelsAreReadAndWritten_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<float>("value");
-    QTest::addColumn<float>("other");
-    QTest::addColumn<int>("space");
-
-    const auto add = [](int mode, float value, float other, Space space) {
-        QTest::addRow("%d", mode) << mode << value << other << int(space);
-    };
-    add(0, 204, 17, Space::RGB);
-    add(1, 102, 17, Space::RGB);
-    add(2, 51, 17, Space::RGB);
-    add(3, 20, 333, Space::HSV);
-    add(4, 75, 10, Space::HSV);
-    add(5, 80, 10, Space::HSV);
-    add(6, 0, 40, Space::CMYK);
-    add(7, 50, 40, Space::CMYK);
-    add(8, 75, 40, Space::CMYK);
-    add(9, 20, 40, Space::CMYK);
-    add(10, 80, 40, Space::RGB);
-    add(11, 54.64f, 33.25f, Space::Lab);
-    add(12, 36.906f, -99.5f, Space::Lab);
-    add(13, 46.124f, 12.75f, Space::Lab);
-}
-
-void TestColorInputs::channelsAreReadAndWritten()
-{
-    QFETCH(int, mode);
-    QFETCH(float, value);
-    QFETCH(float, other);
-    QFETCH(int, space);
-    constexpr float limit = 0.02f;
-    const float read = ZelColorChannel::channelValue(Mode(mode), orange());
-    QVERIFY2(std::abs(read - value) < limit, qPrintable(QString::number(double(read))));
-
-    const ZelColor written = ZelColorChannel::setChannelValue(Mode(mode), orange(), other);
-    QCOMPARE(int(written.space()), space);
-    QVERIFY(std::abs(ZelColorChannel::channelValue(Mode(mode), written) - other) < limit);
-    const bool isGrey = Mode(mode) == Mode::Brightness;
-    const ZelColor back = ZelColorChannel::setChannelValue(Mode(mode), written, value);
-    QCOMPARE(areNear(back, orange(), 0.001f), !isGrey);
-    if (isGrey)
-        QVERIFY(areNear(back, ZelColor(Space::RGB, 0.8f, 0.8f, 0.8f), 1e-6f));
-}
-
-void TestColorInputs::stripsShowTheirChannel_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<int>("place");
-    QTest::addColumn<QColor>("color");
-
-    const auto add = [](int mode, int width, int place, const QColor &color) {
-        QTest::addRow("%d at %d", mode, place) << mode << width << place << color;
-    };
-    for (const int i : {0, 1, 77, 128, 254, 255}) {
-        add(0, 256, i, QColor(i, 102, 51));
-        add(1, 256, i, QColor(204, i, 51));
-        add(2, 256, i, QColor(204, 102, i));
-        add(10, 256, i, QColor(i, i, i));
-    }
-    for (const int i : {0, 59, 60, 200, 359})
-        add(3, 360, i, QColor::fromHsvF(float(i) / 360.0f, 0.75f, 0.8f));
-    for (const int i : {0, 1, 50, 99}) {
-        const float part = float(i) / 100.0f;
-        add(4, 100, i, QColor::fromHsvF(20.0f / 360.0f, part, 0.8f));
-        add(5, 100, i, QColor::fromHsvF(20.0f / 360.0f, 0.75f, part));
-        add(6, 100, i, QColor::fromCmykF(part, 0.5f, 0.75f, 0.2f));
-        add(7, 100, i, QColor::fromCmykF(0, part, 0.75f, 0.2f));
-        add(8, 100, i, QColor::fromCmykF(0, 0.5f, part, 0.2f));
-        add(9, 100, i, QColor::fromCmykF(0, 0.5f, 0.75f, part));
-    }
-    for (const int i : {0, 57, 99})
-        add(11, 100, i, toQColor(ZelColor(Space::Lab, float(i), 36.906f, 46.124f)));
-    for (const int i : {0, 128, 254, 255}) {
-        const float shown = float(std::min(i, 254)) - 128;
-        add(12, 256, i, toQColor(ZelColor(Space::Lab, 54.64f, shown, 46.124f)));
-        add(13, 256, i, toQColor(ZelColor(Space::Lab, 54.64f, 36.906f, shown)));
-    }
-    for (const int i : {0, 50, 99}) {
-        const ZelColor body =
-            ZelColorChannel::setChannelValue(Mode::Temperature, ZelColor(), 2500.0f + 70.0f * i);
-        add(14, 100, i, toQColor(body));
-    }
-    add(15, 1, 0, QColor(204, 102, 51));
-}
-
-void TestColorInputs::stripsShowTheirChannel()
-{
-    QFETCH(int, mode);
-    QFETCH(int, width);
-    QFETCH(int, place);
-    QFETCH(QColor, color);
-    const QImage strip = ZelColorStrip::image(Mode(mode), orange(), 1.0f, kelvins);
-    QCOMPARE(strip.size(), QSize(width, 1));
-    QCOMPARE(strip.format(), QImage::Format_RGB888);
-    // Truncated here, rounded there.
-    const QRgb pixel = strip.pixel(place, 0);
-    QVERIFY2(areNear(pixel, color.rgb(), 1), qPrintable(QColor(pixel).name() + color.name()));
-}
-
-void TestColorInputs::stripsTakeTheDisplaysGamma()
-{
-    const float gamma = policy()->getInvGamma();
-    const QImage strip = ZelColorStrip::image(Mode::Red, orange(), gamma, kelvins);
-    for (int i = 0; i < strip.width(); ++i) {
-        const int red = int(255 * std::pow(i / 255.0, 1 / 2.2));
-        QVERIFY(areNear(strip.pixel(i, 0), qRgb(red, 168, 122), 1));
-    }
-    // Extreme displays as well get what the power gives.
-    for (const float exponent : {1e-38f, 0.1f, 0.4545f, 1.8f, 30.0f, 1e30f}) {
-        const QImage greys = ZelColorStrip::image(Mode::Brightness, orange(), exponent, kelvins);
-        for (int i = 0; i < greys.width(); ++i) {
-            const float grey = std::min(float(i) * 0.003921569f, 1.0f);
-            QCOMPARE(qRed(greys.pixel(i, 0)), int(std::pow(grey, exponent) * 255.0f));
-        }
-    }
-    const QImage hues = ZelColorStrip::hues(1.0f);
-    QCOMPARE(hues.size(), QSize(2, 360));
-    for (const int y : {0, 100, 359}) {
-        const QRgb pure = QColor::fromHsv(359 - y, 255, 255).rgb();
-        QVERIFY(areNear(hues.pixel(0, y), pure, 2));
-        QCOMPARE(hues.pixel(1, y), hues.pixel(0, y));
-    }
-
-    ZelColorSlider slider(Mode::Red);
-    slider.updatePixmap(orange(), false);
-    QCOMPARE(qGreen(slider.strip().toImage().pixel(0, 0)), 102);
-    policy()->setEnableGammaCorrection(true);
-    QVERIFY(std::abs(qGreen(slider.strip().toImage().pixel(0, 0)) - 168) <= 1);
-    slider.updatePixmap(orange(), true);
-    QCOMPARE(qGreen(slider.strip().toImage().pixel(0, 0)), 102);
-}
-
-void TestColorInputs::stripsTakeAnyColor()
-{
-    constexpr float infinity = std::numeric_limits<float>::infinity();
-    for (const float bad : {std::nanf(""), infinity, -infinity, 1e38f, -1e38f}) {
-        for (int space = 0; space <= 5; ++space) {
-            const ZelColor color(Space(space), bad, bad, bad, bad);
-            for (int mode = 0; mode <= 15; ++mode) {
-                QVERIFY(!ZelColorStrip::image(Mode(mode), color, 0.45f, kelvins).isNull());
-                ZelColorSliderEdit edit(color, Mode(mode), QString(), true);
-                QVERIFY(std::isfinite(edit.value()));
-                edit.setValue(bad);
-                QVERIFY(sliderOf(&edit)->value() <= sliderOf(&edit)->maximum());
-            }
-        }
-    }
-}
-
-void TestColorInputs::colorsAreConverted()
-{
-    QCOMPARE(toQColor(orange()).rgba(), qRgba(204, 102, 51, 255));
-    const ZelColor wild(Space::RGB, 1.5f, -0.5f, std::nanf(""));
-    QCOMPARE(toQColor(wild).rgba(), qRgba(255, 0, 0, 255));
-    const ZelColor back = fromQColor(QColor(204, 102, 51, 7), QStringLiteral("Ocker \u00e4"));
-    QVERIFY(areNear(back, orange(), 1e-4f));
-    QCOMPARE(back.space(), Space::RGB);
-    QCOMPARE(back.name(), std::string("Ocker \xc3\xa4"));
-
-    QCOMPARE(toDisplayQColor(orange()), toQColor(orange()));
-    policy()->setEnableGammaCorrection(true);
-    QVERIFY(areNear(toDisplayQColor(orange()).rgb(), qRgb(230, 168, 123), 1));
-}
-
-void TestColorInputs::handleStaysOnTheStrip()
-{
-    for (const int span : {100, 255, 256, 359, 7000}) {
-        for (const int length : {40, 100, 221, 1000}) {
-            constexpr int diameter = 11;
-            int before = 0;
-            for (int step = 0; step <= span; ++step) {
-                const int x = ZelColorHandle::offset(step, span, length, diameter);
-                // A pixel is what the rounding of its parts may be off by.
-                QVERIFY(x >= before - 1 && x >= 0 && x + diameter <= length + 1);
-                before = x;
-            }
-        }
-    }
-    QCOMPARE(ZelColorHandle::diameter(16), 11);
-    QCOMPARE(ZelColorHandle::across(16), 3);
-    QCOMPARE(ZelColorHandle::offset(0, 100, 200, 11), 1);
-    QCOMPARE(ZelColorHandle::offset(75, 100, 200, 11), 141);
-    QCOMPARE(ZelColorHandle::offset(100, 100, 200, 11), 187);
-    QCOMPARE(ZelColorHandle::offset(0, 0, 200, 11), 1);
 }
 
 void TestColorInputs::mouseGoesWhereItIs()
@@ -432,24 +135,6 @@ void TestColorInputs::keysGoByParts()
     QCOMPARE(hue.value(), 36);
     QVERIFY(UserInput::wheel(&hue, 1, Qt::ControlModifier));
     QVERIFY(hue.value() > 36);
-}
-
-void TestColorInputs::handleLiesOnTheStrip()
-{
-    ZelColorSlider slider(Mode::Red);
-    slider.resize(256, 16);
-    slider.setCursorColor(Qt::green);
-    slider.updatePixmap(ZelColor(Space::RGB, 0, 0, 0), false);
-    slider.setValue(128);
-    QImage image(slider.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    slider.render(&image, {}, {}, QWidget::DrawChildren);
-    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
-    QVERIFY(areNear(image.pixel(20, 8), qRgb(20, 0, 0), 2));
-    QVERIFY(areNear(image.pixel(240, 8), qRgb(240, 0, 0), 2));
-    const int x = ZelColorHandle::offset(128, 255, 256, 11);
-    QVERIFY2(areNear(image.pixel(x, 8), qRgb(0, 255, 0), 60), "the ring");
-    QVERIFY2(areNear(image.pixel(x + 5, 8), qRgb(x + 5, 0, 0), 2), "the strip inside the ring");
 }
 
 void TestColorInputs::fieldAndSliderGoInStep()

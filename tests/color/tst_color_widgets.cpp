@@ -50,17 +50,9 @@ QByteArray stored(const zelsg::Color &color)
     return bytes;
 }
 
-/// Whether the field takes the data, as a drag that enters and drops.
 bool drop(QWidget *field, const QMimeData &data)
 {
-    const QPoint middle = field->rect().center();
-    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(field, &enter);
-    if (!enter.isAccepted())
-        return false;
-    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(field, &drop);
-    return drop.isAccepted();
+    return UserInput::dropOn(field, field->rect().center(), data);
 }
 
 } // namespace
@@ -95,9 +87,7 @@ void ColorWidgetsTest::init()
     orv::cdm::setFeatureOverride("multi_colors", false);
     ZelGammaPolicy::get()->setEnableGammaCorrection(false);
     ZelGammaPolicy::get()->setGammaCorrectValues(true);
-    QFile theme(QStringLiteral(":/res/icon_themes/light_theme.json"));
-    QVERIFY(theme.open(QIODevice::ReadOnly));
-    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
+    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/light_theme.json"));
 }
 
 void ColorWidgetsTest::textsAreRead_data()
@@ -106,28 +96,12 @@ void ColorWidgetsTest::textsAreRead_data()
     const auto add = [](const char *text, const char *hex) {
         QTest::newRow(text) << QString::fromLatin1(hex);
     };
-    for (const char *orange : {"#f80",
-                               "f80",
-                               " #FF8800 ",
-                               "ff8800",
-                               "0xff8800",
-                               "#ff8800cc",
-                               "#f80c",
-                               "#f80;",
-                               "rgb(255,136,0)",
-                               "RGB( 255 , 136, 0 )",
-                               "rgb(255 136 0)",
-                               "rgba(255, 136, 0, 0.5)",
-                               "rgb(255 136 0 / 50%)",
-                               "rgb(100%, 53.3%, 0%)",
-                               "100% 53.3% 0%",
-                               "255, 136, 0",
-                               "1, .5333, 0",
-                               "1.0\t0.53333 0.0",
-                               "1.0 0.53333 0.0 1.0",
-                               "rgb(1.0, 0.53333, 0.0)",
-                               "300, 136, -5",
-                               "1.7, 0.53333, -1"})
+    const QByteArray oranges =
+        "#f80|f80| #FF8800 |ff8800|0xff8800|#ff8800cc|#f80c|#f80;|rgb(255,136,0)|"
+        "RGB( 255 , 136, 0 )|rgb(255 136 0)|rgba(255, 136, 0, 0.5)|rgb(255 136 0 / 50%)|"
+        "rgb(100%, 53.3%, 0%)|100% 53.3% 0%|255, 136, 0|1, .5333, 0|1.0\t0.53333 0.0|"
+        "1.0 0.53333 0.0 1.0|rgb(1.0, 0.53333, 0.0)|300, 136, -5|1.7, 0.53333, -1";
+    for (const QByteArray &orange : oranges.split('|'))
         add(orange, "#ff8800");
     add("255 128 000", "#ff8000");
     add("1 1 0", "#ffff00");
@@ -135,28 +109,11 @@ void ColorWidgetsTest::textsAreRead_data()
     add("123", "#112233");
     add("DarkOrange", "#ff8c00");
     add("rebeccapurple", "#663399");
-    for (const char *other : {"",
-                              "#",
-                              "#ff",
-                              "#fffff",
-                              "#ggg",
-                              "0xff",
-                              "ff",
-                              "rgb()",
-                              "rgb(1,2)",
-                              "rgb(1,2,3,4,5)",
-                              "rgb(1,2,3",
-                              "rgb((1,2,3))",
-                              "rgb(10%, 5, 6)",
-                              "nan 0 0",
-                              "inf,1,1",
-                              "1e999 1 1",
-                              "1,,2",
-                              "transparent",
-                              "redd",
-                              "rgb(red, 1, 2)",
-                              "1 2 3 four",
-                              "url(#fff)"})
+    const QByteArray others =
+        "|#|#ff|#fffff|#ggg|0xff|ff|rgb()|rgb(1,2)|rgb(1,2,3,4,5)|rgb(1,2,3|rgb((1,2,3))|"
+        "rgb(10%, 5, 6)|nan 0 0|inf,1,1|1e999 1 1|1,,2|transparent|redd|rgb(red, 1, 2)|"
+        "1 2 3 four|url(#fff)";
+    for (const QByteArray &other : others.split('|'))
         add(other, "");
     QTest::newRow("long") << QString();
 }

@@ -1,12 +1,6 @@
-#include "TestCase.h"
-
-#include "GalleryApplication.h"
-#include "StyleFile.h"
+#include "ButtonPictures.h"
 
 #include <ZelWidgets/IconColorTheme>
-#include <ZelWidgets/ZelCheckBox>
-#include <ZelWidgets/ZelIconButton>
-#include <ZelWidgets/ZelIconCheckBox>
 #include <ZelWidgets/ZelMenuButton>
 #include <ZelWidgets/ZelSwitchControl>
 #include <ZelWidgets/ZelTextlessCheckBox>
@@ -16,14 +10,12 @@
 
 #include <QAccessible>
 #include <QAction>
-#include <QFile>
 #include <QIconEngine>
 #include <QMenu>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QToolBar>
-#include <QWidgetAction>
 
 namespace {
 
@@ -52,32 +44,6 @@ QIcon fillingIcon()
     return QIcon(new FillingEngine);
 }
 
-QPixmap filled(QSize size, Qt::GlobalColor color)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(color);
-    return pixmap;
-}
-
-/// Where a colour is painted in a widget.
-QRect boundsOf(QWidget *widget, Qt::GlobalColor color)
-{
-    const QImage image = widget->grab().toImage();
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y) == QColor(color))
-                bounds |= QRect(x, y, 1, 1);
-        }
-    }
-    return bounds;
-}
-
-QAccessibleInterface *accessible(QWidget *widget)
-{
-    return QAccessible::queryAccessibleInterface(widget);
-}
-
 } // namespace
 
 class ButtonsTest : public TestCase
@@ -98,21 +64,13 @@ private Q_SLOTS:
     void theHandCursorComesAndGoes();
     void aMenuButtonTellsWhatWasChosen();
     void aMenuButtonKeepsRemovedActions();
-    void aSwitchIsACheckBox();
-    void aSwitchChangesSilently();
-    void aBoundCheckBoxWritesAndReads();
-    void aCheckBoxFollowsItsAction();
-    void anIconCheckBoxNamesItsPictures();
     void buttonsWithoutATextAreSmallAndNamed();
     void focusIsSeenOnWhatPaintsItself();
-    void theFocusFrameFollowsTheTheme();
 };
 
 void ButtonsTest::initTestCase()
 {
-    QFile theme(QStringLiteral(":/res/icon_themes/dark_theme.json"));
-    QVERIFY(theme.open(QIODevice::ReadOnly));
-    IconColorTheme::instance()->buildMap(QString::fromUtf8(theme.readAll()));
+    IconColorTheme::instance()->loadThemeFile(QStringLiteral(":/res/icon_themes/dark_theme.json"));
 }
 
 void ButtonsTest::aScaledIconStandsInAFullCell()
@@ -379,101 +337,6 @@ void ButtonsTest::aMenuButtonKeepsRemovedActions()
     QCOMPARE(button->getCurrentIndex(), -1);
 }
 
-void ButtonsTest::aSwitchIsACheckBox()
-{
-    ZelSwitchControl control(ZelSwitchControl::OnOff);
-    control.setToolTip(QStringLiteral("<b>Shadows</b>"));
-    control.show();
-    QSignalSpy toggled(&control, &ZelSwitchControl::toggled);
-    QTest::keyClick(&control, Qt::Key_Space);
-    QVERIFY(control.isChecked());
-    QTest::keyClick(&control, Qt::Key_Return);
-    QTest::keyClick(&control, Qt::Key_Enter);
-    QVERIFY(control.isChecked());
-    QAccessibleInterface *access = accessible(&control);
-    QCOMPARE(access->role(), QAccessible::CheckBox);
-    QCOMPARE(access->text(QAccessible::Name), QStringLiteral("Shadows"));
-    QVERIFY(access->state().checked && access->state().checkable);
-    access->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    QVERIFY(!control.isChecked());
-    QCOMPARE(toggled.count(), 4);
-
-    // The pictures are 42 to 24 units.
-    const QSize hint = control.sizeHint();
-    QCOMPARE(hint.width(), hint.height() * 42 / 24);
-    control.setScale(2.0F);
-    QCOMPARE(control.sizeHint(), hint * 2);
-    messages().expect(QtWarningMsg, QStringLiteral("scale of a switch"));
-    control.setScale(-1.0F);
-    QCOMPARE(control.sizeHint(), hint * 2);
-}
-
-void ButtonsTest::aSwitchChangesSilently()
-{
-    ZelSwitchControl control(ZelSwitchControl::SwithButtonMode(7));
-    QVERIFY(control.icon().isNull());
-    control.setCustomButtons(QIcon(filled(QSize(8, 8), Qt::green)),
-                             QIcon(filled(QSize(8, 8), Qt::red)));
-    control.resize(20, 20);
-    QSignalSpy toggled(&control, &ZelSwitchControl::toggled);
-    QCOMPARE(boundsOf(&control, Qt::red), control.rect());
-    control.setChecked(true, true);
-    QCOMPARE(boundsOf(&control, Qt::green), control.rect());
-    QCOMPARE(toggled.count(), 0);
-    control.setChecked(false, false);
-    QCOMPARE(boundsOf(&control, Qt::red), control.rect());
-    QCOMPARE(toggled.count(), 1);
-}
-
-void ButtonsTest::aBoundCheckBoxWritesAndReads()
-{
-    bool value = true;
-    ZelCheckBox box(QStringLiteral("Bound"), &value);
-    QSignalSpy updated(&box, &ZelCheckBox::valueUpdated);
-    QVERIFY(box.isChecked());
-    box.click();
-    QVERIFY(!value);
-    QCOMPARE(updated.count(), 1);
-    box.setCheckState(Qt::PartiallyChecked);
-    QVERIFY(!value);
-    updated.clear();
-    value = true;
-    box.updateValue();
-    QVERIFY(box.isChecked() && value);
-    value = false;
-    box.resetValue();
-    QVERIFY(box.isChecked() && value);
-    QCOMPARE(updated.count(), 0);
-}
-
-void ButtonsTest::aCheckBoxFollowsItsAction()
-{
-    QAction action(QStringLiteral("Grid"));
-    action.setCheckable(true);
-    action.setChecked(true);
-    ZelCheckBox box(&action);
-    QCOMPARE(box.text(), QStringLiteral("Grid"));
-    QVERIFY(box.isChecked());
-    box.click();
-    QVERIFY(!action.isChecked() && !box.isChecked());
-    action.setChecked(true);
-    QVERIFY(box.isChecked());
-    box.updateValue();
-    box.resetValue();
-    QVERIFY(box.isChecked());
-}
-
-void ButtonsTest::anIconCheckBoxNamesItsPictures()
-{
-    ZelIconCheckBox box(QStringLiteral("Locked"), nullptr);
-    box.setSvgButtonIcon(QStringLiteral(":/lock"));
-    QCOMPARE(box.svgButtonIcon(), QStringLiteral(":/lock"));
-    QVERIFY(box.styleSheet().startsWith(QLatin1String("QCheckBox::indicator { width: ")));
-    QVERIFY(box.styleSheet().endsWith(
-        QLatin1String(" QCheckBox::indicator:unchecked { image: url(:/lock_inactive.svg); } "
-                      " QCheckBox::indicator:checked { image: url(:/lock_active.svg); }")));
-}
-
 void ButtonsTest::buttonsWithoutATextAreSmallAndNamed()
 {
     ZelTextlessCheckBox check;
@@ -520,23 +383,6 @@ void ButtonsTest::focusIsSeenOnWhatPaintsItself()
         widget->setFocus(Qt::TabFocusReason);
         QVERIFY(widget->hasFocus());
         QVERIFY(widget->grab().toImage() != before);
-    }
-}
-
-void ButtonsTest::theFocusFrameFollowsTheTheme()
-{
-    GalleryApplication application(QStringLiteral("Dark"));
-    ZelSwitchControl control;
-    control.show();
-    for (const QString &theme :
-         {QStringLiteral("Light"), QStringLiteral("Dark"), QStringLiteral("Light")}) {
-        application.setTheme(theme);
-        control.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&control));
-        control.setFocus(Qt::TabFocusReason);
-        const QColor expected =
-            StyleFile::color(StyleFile::paletteInForce().value(QStringLiteral("@focus@")));
-        QCOMPARE(control.grab().toImage().pixelColor(control.width() / 2, 0), expected);
     }
 }
 

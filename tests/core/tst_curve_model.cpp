@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "TestCase.h"
 
 #include <ZelCore/ZelBezierCurveModel>
@@ -8,12 +9,14 @@
 #include <QLineF>
 #include <QRandomGenerator>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace {
 
 using Vertex = ZelBezierCurveModel::Vertex;
+using Input = std::tuple<int, ZelVertexData, QVariant, Text>;
 constexpr ZelVertexData position = ZelVertexData::Position;
 constexpr ZelVertexData in = ZelVertexData::InTangent;
 constexpr ZelVertexData out = ZelVertexData::OutTangent;
@@ -59,30 +62,6 @@ QList<Vertex> hill()
     return {{QPointF(0, 0)}, middle, {QPointF(2, 0)}};
 }
 
-} // namespace
-
-class CurveModelTest : public TestCase
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void aRandomWalkKeepsHandlesAndOrder();
-    void changesInsideSignalsReachLateListenersInStep();
-    void listenersMayDeleteTheModel();
-    void handlesOfDeadVerticesAreHarmless();
-    void aLoadReplacesEverythingAtOnce();
-    void verticesStayBetweenTheirNeighbours();
-    void tangentsOfSmoothVerticesTurnTogetherOnScreen();
-    void smoothingGivesAndAlignsTangents();
-    void gapsSplitThePathAndSurviveRemovals();
-    void anAddedVertexKeepsTheShape();
-    void theCurveNeverTurnsBackAndItsBoundsAreTight();
-    void unusableInputChangesNothing_data();
-    void unusableInputChangesNothing();
-};
-
-namespace {
-
 /// Does random things to a model and knows each vertex by the height that it gave it.
 class Walk
 {
@@ -106,8 +85,7 @@ public:
     {
         const int kind = random_.bounded(100);
         if (kind < 45 || model.vertexCount() == 0) {
-            const bool split = kind < 5;
-            if (split)
+            if (kind < 5)
                 model.addVertex(float(random_.generateDouble()));
             else
                 added = model.insertVertex({QPointF(random_.generateDouble(), 0)});
@@ -150,9 +128,8 @@ public:
                 .arg(index)
                 .arg(told.size())
                 .arg(model.vertexCount());
-        int valid = 0;
-        for (auto it = heights.keyBegin(); it != heights.keyEnd(); ++it)
-            valid += it->isValid();
+        const auto valid = std::count_if(heights.keyBegin(), heights.keyEnd(),
+                                         [](const auto &handle) { return handle.isValid(); });
         return valid == index ? QString() : QStringLiteral("%1 handles are valid").arg(valid);
     }
 
@@ -181,6 +158,26 @@ private:
 };
 
 } // namespace
+
+class CurveModelTest : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRandomWalkKeepsHandlesAndOrder();
+    void changesInsideSignalsReachLateListenersInStep();
+    void listenersMayDeleteTheModel();
+    void handlesOfDeadVerticesAreHarmless();
+    void aLoadReplacesEverythingAtOnce();
+    void verticesStayBetweenTheirNeighbours();
+    void tangentsOfSmoothVerticesTurnTogetherOnScreen();
+    void smoothingGivesAndAlignsTangents();
+    void gapsSplitThePathAndSurviveRemovals();
+    void anAddedVertexKeepsTheShape();
+    void theCurveNeverTurnsBackAndItsBoundsAreTight();
+    void unusableInputChangesNothing_data();
+    void unusableInputChangesNothing();
+};
 
 void CurveModelTest::aRandomWalkKeepsHandlesAndOrder()
 {
@@ -470,36 +467,27 @@ void CurveModelTest::theCurveNeverTurnsBackAndItsBoundsAreTight()
 
 void CurveModelTest::unusableInputChangesNothing_data()
 {
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("message");
-    const QString numbers = QStringLiteral("points that are not finite are ignored");
-    QTest::newRow("no number") << 1 << 0 << QVariant(QPointF(notANumber, 1)) << numbers;
-    QTest::newRow("infinite") << 1 << 2 << QVariant(QPointF(1, -infinite)) << numbers;
-    QTest::newRow("a text") << 1 << 1 << QVariant(QStringLiteral("here"))
-                            << QStringLiteral("not a point");
-    QTest::newRow("empty position") << 1 << 0 << QVariant() << QStringLiteral("not a point");
-    QTest::newRow("before the first")
-        << -1 << 0 << QVariant(QPointF()) << QStringLiteral("no vertex -1");
-    QTest::newRow("behind the last")
-        << 3 << 0 << QVariant(QPointF()) << QStringLiteral("no vertex 3");
-    QTest::newRow("unknown key") << 1 << 3 << QVariant(QPointF())
-                                 << QStringLiteral("no data of key 3");
+    const char *const numbers = "points that are not finite are ignored";
+    addRows<Input>({
+        {"no number", {1, position, QPointF(notANumber, 1), numbers}},
+        {"infinite", {1, out, QPointF(1, -infinite), numbers}},
+        {"a text", {1, in, QStringLiteral("here"), "not a point"}},
+        {"empty position", {1, position, QVariant(), "not a point"}},
+        {"before the first", {-1, position, QPointF(), "no vertex -1"}},
+        {"behind the last", {3, position, QPointF(), "no vertex 3"}},
+        {"unknown key", {1, ZelVertexData(3), QPointF(), "no data of key 3"}},
+    });
 }
 
 void CurveModelTest::unusableInputChangesNothing()
 {
-    QFETCH(int, index);
-    QFETCH(int, key);
-    QFETCH(QVariant, value);
-    QFETCH(QString, message);
+    const auto [index, key, value, message] = currentRow<Input>();
     ZelBezierCurveModel model;
     model.setVertices(hill());
     const QList<Vertex> before = model.vertices();
     QSignalSpy changed(&model, &ZelCurveModel::changed);
     messages().expect(QtWarningMsg, message);
-    model.setVertexData(index, ZelVertexData(key), value);
+    model.setVertexData(index, key, value);
     messages().expect(QtWarningMsg, QStringLiteral("not finite"));
     model.addVertex(std::numeric_limits<float>::infinity());
     messages().expect(QtWarningMsg, QStringLiteral("not finite"));

@@ -1,4 +1,4 @@
-#include "TestCase.h"
+#include "DesktopBusTest.h"
 
 #include "ZelPortalColorPicker.h"
 
@@ -7,7 +7,6 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QProcess>
 
 #include <limits>
 
@@ -61,13 +60,11 @@ public Q_SLOTS:
     }
 };
 
-class DesktopColorPickerTest : public TestCase
+class DesktopColorPickerTest : public DesktopBusTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void pickedColorComes_data();
@@ -84,61 +81,31 @@ private:
         picker_->pick(text("x11:1f"), context_.get(),
                       [this](const QColor &color) { answers_.append(color); });
     }
-    void offer();
+    void offer()
+    {
+        DesktopBusTest::offer("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                              portal_.get());
+    }
 
-    QProcess daemon_;
-    QString address_;
     std::unique_ptr<Portal> portal_;
     std::unique_ptr<QObject> context_;
     std::unique_ptr<ZelPortalColorPicker> picker_;
     QList<QColor> answers_;
 };
 
-#define SKIP_WITHOUT_BUS()                                                                         \
-    if (address_.isEmpty())                                                                        \
-    QSKIP("There is no dbus-daemon.")
-
-void DesktopColorPickerTest::initTestCase()
-{
-    daemon_.start(text("dbus-daemon"),
-                  {text("--session"), text("--nofork"), text("--print-address=1")});
-    if (daemon_.waitForReadyRead())
-        address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
-}
-
-void DesktopColorPickerTest::cleanupTestCase()
-{
-    daemon_.kill();
-    daemon_.waitForFinished();
-}
-
 void DesktopColorPickerTest::init()
 {
-    TestCase::init();
+    DesktopBusTest::init();
     answers_.clear();
     portal_ = std::make_unique<Portal>();
     context_ = std::make_unique<QObject>();
-    if (address_.isEmpty())
-        return;
-    QDBusConnection::connectToBus(address_, text("desktop"));
-    picker_ = std::make_unique<ZelPortalColorPicker>(
-        QDBusConnection::connectToBus(address_, text("application")));
+    picker_ = std::make_unique<ZelPortalColorPicker>(application());
 }
 
 void DesktopColorPickerTest::cleanup()
 {
     picker_.reset();
-    QDBusConnection::disconnectFromBus(text("application"));
-    QDBusConnection::disconnectFromBus(text("desktop"));
-    TestCase::cleanup();
-}
-
-void DesktopColorPickerTest::offer()
-{
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text("/org/freedesktop/portal/desktop"), portal_.get(),
-                                   QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text("org.freedesktop.portal.Desktop")));
+    DesktopBusTest::cleanup();
 }
 
 void DesktopColorPickerTest::pickedColorComes_data()
@@ -191,8 +158,7 @@ void DesktopColorPickerTest::anOldPortalAnswersByAPathOfItsOwn()
 void DesktopColorPickerTest::aPortalThatRefusesIsNotAskedAgain()
 {
     SKIP_WITHOUT_BUS();
-    QVERIFY(
-        QDBusConnection(text("desktop")).registerService(text("org.freedesktop.portal.Desktop")));
+    QVERIFY(desktop().registerService(text("org.freedesktop.portal.Desktop")));
     QVERIFY(picker_->isAvailable());
     pick();
     QTRY_COMPARE(answers_, QList<QColor>{QColor()});
@@ -205,7 +171,7 @@ void DesktopColorPickerTest::aPortalThatGoesEndsThePick()
     offer();
     pick();
     QTRY_VERIFY(!portal_->request.isEmpty());
-    QDBusConnection(text("desktop")).unregisterService(text("org.freedesktop.portal.Desktop"));
+    desktop().unregisterService(text("org.freedesktop.portal.Desktop"));
     QTRY_COMPARE(answers_, QList<QColor>{QColor()});
 }
 

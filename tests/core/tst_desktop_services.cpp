@@ -1,4 +1,4 @@
-#include "TestCase.h"
+#include "DesktopBusTest.h"
 
 #include "ZelDesktopInhibitor.h"
 #include "ZelFileManagerCall.h"
@@ -6,20 +6,6 @@
 #include <ZelCore/ZelKeepAwake>
 
 #include <QElapsedTimer>
-#include <QProcess>
-
-namespace {
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
-
-#define SKIP_WITHOUT_BUS()                                                                         \
-    if (address_.isEmpty())                                                                        \
-    QSKIP("There is no dbus-daemon.")
 
 /// What a desktop offers on the bus: counts the inhibits that are held.
 class InhibitService : public QObject
@@ -53,13 +39,11 @@ public Q_SLOTS:
     void ShowItems(const QStringList &addresses, const QString &) { shown += addresses; }
 };
 
-class TestDesktopServices : public TestCase
+class TestDesktopServices : public DesktopBusTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
     void init();
     void cleanup();
     void repeatedCallsHoldOneInhibit();
@@ -71,60 +55,27 @@ private Q_SLOTS:
     void theFileManagerIsAskedBeforeTheFolderIsOpened();
 
 private:
-    void offer(const char *path, const char *service, const char *interface);
-    void offerScreenSaver();
+    void offerScreenSaver()
+    {
+        offer("org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver", service_.get(),
+              "org.freedesktop.ScreenSaver");
+    }
 
-    QProcess daemon_;
-    QString address_;
     std::unique_ptr<InhibitService> service_;
     std::unique_ptr<ZelDesktopInhibitor> inhibitor_;
 };
 
-void TestDesktopServices::initTestCase()
-{
-    daemon_.start(text("dbus-daemon"),
-                  {text("--session"), text("--nofork"), text("--print-address=1")});
-    if (daemon_.waitForReadyRead())
-        address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
-}
-
-void TestDesktopServices::cleanupTestCase()
-{
-    daemon_.kill();
-    daemon_.waitForFinished();
-}
-
 void TestDesktopServices::init()
 {
-    TestCase::init();
+    DesktopBusTest::init();
     service_ = std::make_unique<InhibitService>();
-    if (address_.isEmpty())
-        return;
-    QDBusConnection::connectToBus(address_, text("desktop"));
-    inhibitor_ = std::make_unique<ZelDesktopInhibitor>(
-        QDBusConnection::connectToBus(address_, text("application")));
+    inhibitor_ = std::make_unique<ZelDesktopInhibitor>(application());
 }
 
 void TestDesktopServices::cleanup()
 {
     inhibitor_.reset();
-    QDBusConnection::disconnectFromBus(text("application"));
-    QDBusConnection::disconnectFromBus(text("desktop"));
-    TestCase::cleanup();
-}
-
-void TestDesktopServices::offer(const char *path, const char *service, const char *interface)
-{
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text(path), text(interface), service_.get(),
-                                   QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text(service)));
-}
-
-void TestDesktopServices::offerScreenSaver()
-{
-    offer("/org/freedesktop/ScreenSaver", "org.freedesktop.ScreenSaver",
-          "org.freedesktop.ScreenSaver");
+    DesktopBusTest::cleanup();
 }
 
 void TestDesktopServices::repeatedCallsHoldOneInhibit()
@@ -161,8 +112,8 @@ void TestDesktopServices::aReleaseBeforeTheAnswerGivesTheInhibitBack()
 void TestDesktopServices::withoutAScreenSaverThePowerManagementIsAsked()
 {
     SKIP_WITHOUT_BUS();
-    offer("/org/freedesktop/PowerManagement/Inhibit", "org.freedesktop.PowerManagement",
-          "org.freedesktop.PowerManagement.Inhibit");
+    offer("org.freedesktop.PowerManagement", "/org/freedesktop/PowerManagement/Inhibit",
+          service_.get(), "org.freedesktop.PowerManagement.Inhibit");
     inhibitor_->inhibit();
     QTRY_VERIFY(inhibitor_->isHeld());
     QCOMPARE(service_->held, QList<uint>{101});
@@ -176,10 +127,9 @@ void TestDesktopServices::aServiceThatCameBackIsAskedAgain()
     offerScreenSaver();
     inhibitor_->inhibit();
     QTRY_VERIFY(inhibitor_->isHeld());
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.unregisterService(text("org.freedesktop.ScreenSaver")));
+    QVERIFY(desktop().unregisterService(text("org.freedesktop.ScreenSaver")));
     QTRY_VERIFY(!inhibitor_->isHeld());
-    QVERIFY(desktop.registerService(text("org.freedesktop.ScreenSaver")));
+    QVERIFY(desktop().registerService(text("org.freedesktop.ScreenSaver")));
     inhibitor_->inhibit();
     QTRY_VERIFY(inhibitor_->isHeld());
     QCOMPARE(service_->grants, 2);
@@ -225,15 +175,11 @@ void TestDesktopServices::theFileManagerIsAskedBeforeTheFolderIsOpened()
     QCOMPARE(opened, QStringList(path));
 
     SKIP_WITHOUT_BUS();
-    const QDBusConnection application(text("application"));
-    ZelFileManagerCall::showItem(application, path, open, this);
+    ZelFileManagerCall::showItem(application(), path, open, this);
     QTRY_COMPARE(opened.size(), 2);
     FileManager manager;
-    QDBusConnection desktop(text("desktop"));
-    QVERIFY(desktop.registerObject(text("/org/freedesktop/FileManager1"), &manager,
-                                   QDBusConnection::ExportAllSlots));
-    QVERIFY(desktop.registerService(text("org.freedesktop.FileManager1")));
-    ZelFileManagerCall::showItem(application, path, open, this);
+    offer("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1", &manager);
+    ZelFileManagerCall::showItem(application(), path, open, this);
     QTRY_COMPARE(manager.shown, QStringList(text("file:///a%20b/c%25%23%0A.png")));
     QCOMPARE(opened.size(), 2);
 }

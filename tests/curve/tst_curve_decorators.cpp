@@ -1,5 +1,5 @@
 #include "DecoratorAssertions.h"
-#include "TestCase.h"
+#include "DecoratorBench.h"
 #include "UserInput.h"
 
 #include <ZelWidgets/ZelAxisDecorator>
@@ -8,13 +8,10 @@
 #include <ZelWidgets/ZelGridLabelDecorator>
 #include <ZelWidgets/ZelGridPositioning>
 #include <ZelWidgets/ZelGridRulerDecorator>
-#include <ZelWidgets/ZelTimeMarkerDecorator>
 #include <ZelWidgets/ZelVLineDecorator2>
 
 #include <QGraphicsRectItem>
-#include <QGraphicsScene>
 #include <QGraphicsSimpleTextItem>
-#include <QGraphicsView>
 #include <QImage>
 #include <QPainter>
 #include <QSignalSpy>
@@ -22,8 +19,6 @@
 #include <cmath>
 
 namespace {
-
-using Side = ZelTimeMarkerDecorator::TrianglePosition;
 
 /// What a decorator paints of an area in an image whose axes have different scales, y pointing up.
 QImage painted(ZelCurveViewDecorator2 &decorator, const QRectF &area, const QSize &size)
@@ -57,67 +52,6 @@ QList<int> widths(const QImage &image, Qt::Orientation along, int at)
     return result;
 }
 
-/// A scene of its own with a view of 400 x 300 pixels, 40 a unit across and 100 a unit up, of the
-/// area (-5, -1.5) to (5, 1.5).
-struct Bench
-{
-    Bench()
-        : scene(std::make_unique<QGraphicsScene>(-100, -100, 200, 200))
-        , view(scene.get())
-    {
-        view.setFrameShape(QFrame::NoFrame);
-        view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        view.setTransform(QTransform::fromScale(40, -100));
-        view.resize(400, 300);
-        view.centerOn(0, 0);
-        view.show();
-    }
-
-    bool isReady()
-    {
-        return QTest::qWaitForWindowExposed(&view) && area() == QRectF(-5, -1.5, 10, 3);
-    }
-    QRectF area() const { return view.mapToScene(view.viewport()->rect()).boundingRect(); }
-    void add(ZelCurveViewDecorator2 &decorator)
-    {
-        decorator.setScene(scene.get());
-        update(decorator);
-    }
-    void update(ZelCurveViewDecorator2 &decorator)
-    {
-        decorator.updateItems(area(), view.transform());
-    }
-    QPoint pixel(double x, double y) const { return view.mapFromScene(QPointF(x, y)); }
-    /// The items of a kind, those behind first.
-    template <typename Item>
-    QList<Item *> items() const
-    {
-        QList<Item *> found;
-        const QList<QGraphicsItem *> all = scene->items(Qt::AscendingOrder);
-        for (QGraphicsItem *item : all) {
-            if (auto *wanted = dynamic_cast<Item *>(item))
-                found.append(wanted);
-        }
-        return found;
-    }
-    /// The rectangles of the marker's parts, in pixels from the top left of the view.
-    QList<QRectF> markerParts() const
-    {
-        QList<QRectF> parts;
-        const QList<QGraphicsItem *> all = scene->items(Qt::AscendingOrder);
-        for (const QGraphicsItem *item : all) {
-            if (item->flags() & QGraphicsItem::ItemClipsChildrenToShape)
-                parts.append(
-                    item->deviceTransform(view.viewportTransform()).mapRect(item->boundingRect()));
-        }
-        return parts;
-    }
-
-    std::unique_ptr<QGraphicsScene> scene;
-    QGraphicsView view;
-};
-
 } // namespace
 
 class TestCurveDecorators : public TestCase
@@ -134,15 +68,6 @@ private Q_SLOTS:
     void labelsAreReplacedAndBounded();
     void rulerIsABandOfPixels();
     void rulerTellsOfTheMouse();
-    void markerIsCutInTwo_data();
-    void markerIsCutInTwo();
-    void markerPartsStackApart();
-    void markerIsDragged();
-    void markerShowsThatTheMouseIsThere();
-    void markerSurvivesAClearedScene();
-    void markerStatesAreGuarded();
-    void itemsEndWithTheSceneOrTheDecorator();
-    void decoratorsMayEndInTheirSignals();
 };
 
 void TestCurveDecorators::linesKeepTheirWidthOnScreen()
@@ -335,229 +260,6 @@ void TestCurveDecorators::rulerTellsOfTheMouse()
     QCOMPARE(clicked, {QVariantList{0.5F}});
     QCOMPARE(moved, {QVariantList{-6.0F}});
     QCOMPARE(released.size(), 1);
-}
-
-void TestCurveDecorators::markerIsCutInTwo_data()
-{
-    QTest::addColumn<Side>("side");
-    QTest::addColumn<double>("from");
-    QTest::addColumn<double>("to");
-    QTest::newRow("bottom") << Side::Bottom << -10.0 << 10.0;
-    QTest::newRow("left") << Side::Left << -10.0 << 0.0;
-    QTest::newRow("right") << Side::Right << 0.0 << 10.0;
-}
-
-void TestCurveDecorators::markerIsCutInTwo()
-{
-    QFETCH(Side, side);
-    QFETCH(double, from);
-    QFETCH(double, to);
-    Bench bench;
-    QVERIFY(bench.isReady());
-    ZelTimeMarkerDecorator marker(side);
-    marker.setPen(QPen(Qt::black, 0));
-    marker.setPosition(1);
-    bench.add(marker);
-    bench.update(marker);
-    const double x = bench.pixel(1, 0).x();
-    for (const double split : {1.0, 40.0}) {
-        marker.setSplitHeight(split);
-        bench.update(marker);
-        QCOMPARE(bench.markerParts(), QList<QRectF>({{x + from, 0, to - from, 300 - split},
-                                                     {x + from, 300 - split, to - from, split}}));
-    }
-    // A cut outside of the view leaves one part empty.
-    marker.setSplitHeight(1000);
-    bench.update(marker);
-    QCOMPARE(bench.markerParts().value(0).height(), 0.0);
-    QCOMPARE(bench.markerParts().value(1), QRectF(x + from, 0, to - from, 300));
-}
-
-void TestCurveDecorators::markerPartsStackApart()
-{
-    Bench bench;
-    QVERIFY(bench.isReady());
-    bench.scene->addRect(-5, -1.5, 10, 3, Qt::NoPen, Qt::green);
-    ZelTimeMarkerDecorator marker(Side::Bottom);
-    marker.setPen(QPen(Qt::red, 4));
-    marker.setSplitHeight(100);
-    marker.setZOrderTop(-1);
-    marker.setZOrderBottom(1);
-    bench.add(marker);
-    const QImage seen = bench.view.grab().toImage();
-    QCOMPARE(seen.pixelColor(200, 195), QColor(Qt::green));
-    QCOMPARE(seen.pixelColor(200, 205), QColor(Qt::red));
-    QCOMPARE(seen.pixelColor(206, 298), QColor(Qt::red));
-    QCOMPARE(seen.pixelColor(206, 285), QColor(Qt::green));
-}
-
-void TestCurveDecorators::markerIsDragged()
-{
-    Bench bench;
-    QVERIFY(bench.isReady());
-    ZelTimeMarkerDecorator marker(Side::Bottom);
-    bench.add(marker);
-    QSignalSpy changed(&marker, &ZelTimeMarkerDecorator::markerPositionChanged);
-    QWidget *area = bench.view.viewport();
-    UserInput::press(area, {204, 150});
-    QVERIFY(QApplication::overrideCursor());
-    UserInput::move(area, {300, 10});
-    UserInput::move(area, {300, 200});
-    UserInput::move(area, {-60, 150});
-    UserInput::release(area, {-60, 150});
-    QVERIFY(QApplication::overrideCursor()); // the mouse is still there
-    UserInput::move(area, {50, 150}, {}, Qt::NoButton);
-    QVERIFY(!QApplication::overrideCursor());
-    QCOMPARE(changed, (QList<QVariantList>{{2.5F}, {-6.5F}}));
-    UserInput::press(area, {204, 150});
-    UserInput::move(area, {300, 10});
-    QCOMPARE(changed.size(), 2);
-
-    marker.setPosition(1e300);
-    QCOMPARE(changed.value(2), QVariantList{std::numeric_limits<float>::max()});
-    messages().expect(QtWarningMsg, QStringLiteral("Time marker: not a position: nan"));
-    marker.setPosition(std::nan(""));
-    QCOMPARE(changed.size(), 3);
-}
-
-void TestCurveDecorators::markerShowsThatTheMouseIsThere()
-{
-    Bench bench;
-    QVERIFY(bench.isReady());
-    auto marker = std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom);
-    marker->setPen(QPen(Qt::black, 2));
-    marker->setHoverPen(QPen(Qt::red, 2, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin));
-    bench.add(*marker);
-    const auto look = [&bench] {
-        const auto *triangle = bench.items<QGraphicsPolygonItem>().value(0);
-        const auto *line = bench.items<QGraphicsLineItem>().value(1);
-        const bool same = triangle->pen() == line->pen() &&
-                          triangle->pen().joinStyle() == Qt::MiterJoin &&
-                          triangle->brush() == QBrush(line->pen().color());
-        return same ? line->pen().color() : QColor();
-    };
-    QCOMPARE(look(), QColor(Qt::black));
-    QWidget *area = bench.view.viewport();
-    UserInput::move(area, {205, 100}, {}, Qt::NoButton);
-    QVERIFY(QApplication::overrideCursor());
-    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
-    QCOMPARE(look(), QColor(Qt::red));
-    UserInput::move(area, {250, 100}, {}, Qt::NoButton);
-    QVERIFY(!QApplication::overrideCursor());
-    QCOMPARE(look(), QColor(Qt::black));
-    UserInput::move(area, {205, 100}, {}, Qt::NoButton);
-    marker.reset();
-    QVERIFY(!QApplication::overrideCursor());
-}
-
-void TestCurveDecorators::markerSurvivesAClearedScene()
-{
-    Bench bench;
-    ZelTimeMarkerDecorator marker(Side::Right);
-    bench.add(marker);
-    bench.scene->clear();
-    marker.setPosition(3);
-    marker.setPen(QPen(Qt::blue));
-    marker.setZOrderTop(1);
-    marker.setZOrderBottom(1);
-    bench.update(marker);
-    QCOMPARE(bench.scene->items().size(), 0);
-}
-
-void TestCurveDecorators::markerStatesAreGuarded()
-{
-    ZelTimeMarkerDecorator marker(Side::Bottom);
-    QSignalSpy changed(&marker, &ZelTimeMarkerDecorator::markerPositionChanged);
-    marker.setScene(nullptr);
-    marker.updateItems({0, 0, 1, 1}, {});
-    auto scene = std::make_unique<QGraphicsScene>();
-    marker.setScene(scene.get());
-    const auto count = scene->items().size();
-    QGraphicsScene other;
-    marker.setScene(&other);
-    marker.setScene(scene.get());
-    QCOMPARE(other.items().size(), 0);
-    QCOMPARE(scene->items().size(), count);
-    const QString again = decoratorAssertion("sceneState() == NoSceneSet", "setScene", 643);
-    QCOMPARE(messages().messages(QtDebugMsg),
-             QStringList({decoratorAssertion("scene != nullptr", "setScene", 640),
-                          decoratorAssertion("sceneState() == SceneValid", "updateItems", 696),
-                          again, again}));
-    messages().clear();
-    scene.reset();
-    marker.setPosition(1);
-    marker.setPen(QPen(Qt::red));
-    marker.setHoverPen(QPen(Qt::red));
-    marker.setZOrderTop(1);
-    marker.setZOrderBottom(1);
-    marker.setUseHoverPen(true);
-    marker.setScene(&other);
-    marker.updateItems({0, 0, 1, 1}, {});
-    QStringList expected;
-    const QList<std::pair<const char *, int>> functions{
-        {"setPosition", 730},  {"setPen", 745},          {"setHoverPen", 758},
-        {"setZOrderTop", 768}, {"setZOrderBottom", 777}, {"setUseHoverPen", 786}};
-    for (const auto &[function, line] : functions)
-        expected.append(
-            decoratorAssertion("sceneState() != SceneDeletedExternally", function, line));
-    expected.append(again);
-    expected.append(decoratorAssertion("sceneState() == SceneValid", "updateItems", 696));
-    QCOMPARE(messages().messages(QtDebugMsg), expected);
-    QCOMPARE(changed.size(), 0);
-}
-
-void TestCurveDecorators::itemsEndWithTheSceneOrTheDecorator()
-{
-    const auto makeAll = [](Bench &bench) {
-        std::vector<std::unique_ptr<ZelCurveViewDecorator2>> all;
-        all.push_back(std::make_unique<ZelGridLabelDecorator>());
-        all.push_back(std::make_unique<ZelGridRulerDecorator>());
-        all.push_back(std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom));
-        for (const auto &decorator : all)
-            bench.add(*decorator);
-        return all;
-    };
-    Bench bench;
-    auto first = makeAll(bench);
-    QVERIFY(!bench.scene->items().isEmpty());
-    first.clear();
-    QVERIFY(bench.scene->items().isEmpty());
-    const auto second = makeAll(bench);
-    bench.scene.reset();
-    for (const auto &decorator : second)
-        decorator->updateItems({0, 0, 1, 1}, QTransform::fromScale(1, -1));
-    QCOMPARE(messages().messages(QtDebugMsg).size(), 3);
-}
-
-void TestCurveDecorators::decoratorsMayEndInTheirSignals()
-{
-    using Ruler = ZelGridRulerDecorator;
-    Bench bench;
-    QVERIFY(bench.isReady());
-    QWidget *area = bench.view.viewport();
-    for (int signal = 0; signal < 4; ++signal) {
-        auto ruler = std::make_unique<Ruler>();
-        auto marker = std::make_unique<ZelTimeMarkerDecorator>(Side::Bottom);
-        bench.add(*ruler);
-        bench.add(*marker);
-        const auto end = [&ruler, &marker, signal] {
-            signal < 3 ? ruler.reset() : marker.reset();
-        };
-        if (signal == 0)
-            connect(ruler.get(), &Ruler::clicked, this, end);
-        else if (signal == 1)
-            connect(ruler.get(), &Ruler::moved, this, end);
-        else if (signal == 2)
-            connect(ruler.get(), &Ruler::released, this, end);
-        else
-            connect(marker.get(), &ZelTimeMarkerDecorator::markerPositionChanged, this, end);
-        UserInput::drag(area, {100, 295}, {120, 295});
-        UserInput::drag(area, {200, 100}, {300, 100});
-        QCOMPARE(ruler == nullptr, signal < 3);
-        QCOMPARE(marker == nullptr, signal == 3);
-        UserInput::move(area, {50, 150}, {}, Qt::NoButton);
-        QTRY_VERIFY(!QApplication::overrideCursor());
-    }
 }
 
 ZEL_TEST_MAIN(TestCurveDecorators)

@@ -18,13 +18,14 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QClipboard>
-#include <QDropEvent>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMimeData>
 #include <QSignalSpy>
 
+#include <array>
 #include <cmath>
+#include <functional>
 #include <random>
 
 namespace {
@@ -41,18 +42,6 @@ void fill(ZelGradient &gradient)
         gradient.addAlphaStop(0.0f, 1.0f);
         gradient.addAlphaStop(0.75f, 0.5f);
     }
-}
-
-bool drop(QWidget &widget, QPoint point, const QMimeData &data)
-{
-    QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &enter);
-    if (!enter.isAccepted())
-        return false;
-    QDropEvent event(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    event.ignore();
-    QCoreApplication::sendEvent(&widget, &event);
-    return event.isAccepted();
 }
 
 } // namespace
@@ -72,7 +61,6 @@ private Q_SLOTS:
     void keysWalkMoveAndDelete();
     void stopsAreChildrenToAssistiveTechnology();
     void gradientsAreCopiedPastedAndPlaced();
-    void controlsFollowTheSelection_data();
     void controlsFollowTheSelection();
     void controlsEditTheSelectedStop();
     void closedDialogGivesItsStopTheColorBack();
@@ -211,17 +199,17 @@ void GradientEditorTest::colorsAreDropped()
     bar.gradient.setSelected(bar.gradient.colorStop(0));
     QMimeData green;
     green.setColorData(QColor(Qt::green));
-    QVERIFY(drop(bar.display, bar.color(0.5f), green));
+    QVERIFY(UserInput::dropOn(&bar.display, bar.color(0.5f), green));
     QCOMPARE(bar.gradient.colorStop(1).color().toRGB()[1], 1.0f);
-    QVERIFY(drop(bar.display, bar.geometry().bar().center() + QPoint(60, 0), green));
+    QVERIFY(UserInput::dropOn(&bar.display, bar.geometry().bar().center() + QPoint(60, 0), green));
     QCOMPARE(bar.gradient.colorStops(), 4);
     QVERIFY(bar.gradient.selected() == bar.gradient.colorStop(0));
     QMimeData torn;
     torn.setData(ZelMimeTypes::COLOR, QByteArray("\0\1\2", 3));
-    QVERIFY(!drop(bar.display, bar.geometry().bar().center(), torn));
+    QVERIFY(!UserInput::dropOn(&bar.display, bar.geometry().bar().center(), torn));
     QMimeData text;
     text.setText(QStringLiteral("#ff0000"));
-    QVERIFY(!drop(bar.display, bar.geometry().bar().center(), text));
+    QVERIFY(!UserInput::dropOn(&bar.display, bar.geometry().bar().center(), text));
     QCOMPARE(bar.gradient.colorStops(), 4);
 }
 
@@ -341,47 +329,37 @@ public:
     ZelGradientView view;
 };
 
-void GradientEditorTest::controlsFollowTheSelection_data()
-{
-    QTest::addColumn<int>("features");
-    QTest::addColumn<bool>("hasOpacity");
-    QTest::addColumn<bool>("hasBrightness");
-    QTest::newRow("none") << 0 << false << false;
-    QTest::newRow("alpha") << int(ZelGradient::Alpha) << true << false;
-    QTest::newRow("hdr") << int(ZelGradient::Hdr) << false << true;
-    QTest::newRow("both") << int(ZelGradient::Alpha | ZelGradient::Hdr) << true << true;
-}
-
 void GradientEditorTest::controlsFollowTheSelection()
 {
-    QFETCH(const int, features);
-    QFETCH(const bool, hasOpacity);
-    QFETCH(const bool, hasBrightness);
-    ZelGradient gradient{ZelGradient::Features(features)};
-    fill(gradient);
-    Editor editor(&gradient);
-    QVERIFY(gradient.selected() == gradient.colorStop(0));
-    QCOMPARE(editor.opacity()->isVisible(), hasOpacity);
-    QCOMPARE(editor.button(QStringLiteral("Add Opacity Stop"))->isVisible(), hasOpacity);
-    QCOMPARE(editor.brightness()->isVisible(), hasBrightness);
-    QVERIFY(editor.color()->isEnabled() && editor.remove()->isEnabled());
-    QVERIFY(editor.brightness()->isEnabled() && !editor.opacity()->isEnabled());
-    if (hasOpacity) {
-        gradient.setSelected(gradient.alphaStop(1));
-        QVERIFY(!editor.color()->isEnabled() && !editor.brightness()->isEnabled());
-        QVERIFY(editor.opacity()->isEnabled());
-        QCOMPARE(editor.opacity()->value(), 0.5f);
+    for (const int features : {0, int(ZelGradient::Alpha), int(ZelGradient::Hdr),
+                               int(ZelGradient::Alpha | ZelGradient::Hdr)}) {
+        ZelGradient gradient{ZelGradient::Features(features)};
+        const bool hasOpacity = gradient.hasAlpha();
+        fill(gradient);
+        Editor editor(&gradient);
+        QVERIFY(gradient.selected() == gradient.colorStop(0));
+        QCOMPARE(editor.opacity()->isVisible(), hasOpacity);
+        QCOMPARE(editor.button(QStringLiteral("Add Opacity Stop"))->isVisible(), hasOpacity);
+        QCOMPARE(editor.brightness()->isVisible(), (features & ZelGradient::Hdr) != 0);
+        QVERIFY(editor.color()->isEnabled() && editor.remove()->isEnabled());
+        QVERIFY(editor.brightness()->isEnabled() && !editor.opacity()->isEnabled());
+        if (hasOpacity) {
+            gradient.setSelected(gradient.alphaStop(1));
+            QVERIFY(!editor.color()->isEnabled() && !editor.brightness()->isEnabled());
+            QVERIFY(editor.opacity()->isEnabled());
+            QCOMPARE(editor.opacity()->value(), 0.5f);
+        }
+        const bool wasEnabled = editor.brightness()->isEnabled();
+        editor.remove()->click();
+        QVERIFY(gradient.selected().isNull());
+        QVERIFY(!editor.color()->isEnabled() && !editor.opacity()->isEnabled());
+        QVERIFY(!editor.remove()->isEnabled());
+        QCOMPARE(editor.brightness()->isEnabled(), wasEnabled);
+        while (gradient.stops() > 2)
+            gradient.removeStop(*gradient.begin());
+        gradient.setSelected(*gradient.begin());
+        QVERIFY(!editor.remove()->isEnabled());
     }
-    const bool wasEnabled = editor.brightness()->isEnabled();
-    editor.remove()->click();
-    QVERIFY(gradient.selected().isNull());
-    QVERIFY(!editor.color()->isEnabled() && !editor.opacity()->isEnabled());
-    QVERIFY(!editor.remove()->isEnabled());
-    QCOMPARE(editor.brightness()->isEnabled(), wasEnabled);
-    while (gradient.stops() > 2)
-        gradient.removeStop(*gradient.begin());
-    gradient.setSelected(*gradient.begin());
-    QVERIFY(!editor.remove()->isEnabled());
 }
 
 void GradientEditorTest::controlsEditTheSelectedStop()
@@ -467,46 +445,29 @@ void GradientEditorTest::anyEditsKeepModelAndEditorInStep()
     ZelGradient gradient(ZelGradient::Alpha | ZelGradient::Hdr);
     Editor editor(&gradient);
     std::mt19937 random(20261121);
-    std::uniform_real_distribution<float> wild(-2.0f, 6.0f);
+    std::uniform_real_distribution<float> numbers(-2.0f, 6.0f);
+    const auto wild = [&] {
+        return numbers(random);
+    };
+    ZelGradientStop stop;
+    const std::array<std::function<void()>, 10> kinds{
+        [&] { gradient.addColorStop(wild(), red); },
+        [&] { gradient.addAlphaStop(wild(), wild()); },
+        [&] { gradient.stops() > 40 ? gradient.clearStops() : gradient.removeStop(stop); },
+        [&] { stop.setLocation(wild()); },
+        [&] { wild() > 0 ? stop.setSlopeIn(wild()) : stop.setSlopeOut(wild()); },
+        [&] { wild() > 0 ? stop.setAlpha(wild()) : stop.setGain(wild()); },
+        [&] { gradient.setSelected(stop); },
+        [&] { gradient.clearSelection(); },
+        [&] { gradient.reverse(); },
+        [&] {
+            gradient.setBlend(wild() > 0);
+        }};
     for (int edit = 0; edit < edits; ++edit) {
         const int count = gradient.stops();
-        ZelGradientStop stop =
+        stop =
             count > 0 ? *(gradient.begin() + int(random() % unsigned(count))) : ZelGradientStop();
-        const float number = wild(random);
-        switch (random() % 10) {
-        case 0:
-            gradient.addColorStop(number, red);
-            break;
-        case 1:
-            gradient.addAlphaStop(number, wild(random));
-            break;
-        case 2:
-            count > 40 ? gradient.clearStops() : gradient.removeStop(stop);
-            break;
-        case 3:
-            stop.setLocation(number);
-            break;
-        case 4:
-            stop.setSlopeIn(number);
-            stop.setSlopeOut(-number);
-            break;
-        case 5:
-            stop.setAlpha(number);
-            stop.setGain(number);
-            break;
-        case 6:
-            gradient.setSelected(stop);
-            break;
-        case 7:
-            gradient.clearSelection();
-            break;
-        case 8:
-            gradient.reverse();
-            break;
-        default:
-            gradient.setBlend(number > 0);
-            break;
-        }
+        kinds[random() % kinds.size()]();
         QVERIFY(std::is_sorted(gradient.begin(), gradient.end()));
         const auto alphas = std::count_if(gradient.begin(), gradient.end(),
                                           [](const ZelGradientStop &s) { return s.isAlpha(); });

@@ -88,12 +88,7 @@ bool drop(QAbstractItemView &view, const QPoint &point)
 {
     QMimeData data;
     data.setText(QStringLiteral("dropped"));
-    QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(view.viewport(), &enter);
-    QDropEvent event(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    event.ignore();
-    QCoreApplication::sendEvent(view.viewport(), &event);
-    return event.isAccepted();
+    return UserInput::dropOn(view.viewport(), point, data);
 }
 
 } // namespace
@@ -104,9 +99,7 @@ class IconListsTest : public TestCase
 
 private Q_SLOTS:
     void init();
-    void cellsShareTheRow_data();
     void cellsShareTheRow();
-    void captionsNeedRoom_data();
     void captionsNeedRoom();
     void twoIconsAlwaysFit();
     void theSliderFollowsTheList();
@@ -131,56 +124,34 @@ void IconListsTest::init()
     ZelShortcutHandler::prepareInstance();
 }
 
-void IconListsTest::cellsShareTheRow_data()
-{
-    QTest::addColumn<int>("needed");
-    QTest::addColumn<int>("available");
-    QTest::addColumn<int>("width");
-    QTest::newRow("two columns") << 200 << 500 << 250;
-    QTest::newRow("no column") << 600 << 500 << 600;
-    QTest::newRow("exactly one") << 500 << 500 << 500;
-    QTest::newRow("nothing needed") << 0 << 500 << 0;
-    QTest::newRow("no room") << 40 << -8 << 40;
-}
-
 void IconListsTest::cellsShareTheRow()
 {
-    QFETCH(const int, needed);
-    QFETCH(const int, available);
-    QTEST(IconModeSizeDelegate::sharedWidth(needed, available), "width");
-}
-
-void IconListsTest::captionsNeedRoom_data()
-{
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<int>("lines");
-    QTest::newRow("47") << 47 << 0;
-    QTest::newRow("48") << 48 << 1;
-    QTest::newRow("96") << 96 << 1;
-    QTest::newRow("97") << 97 << 2;
+    const auto shared = &IconModeSizeDelegate::sharedWidth;
+    QCOMPARE(shared(200, 500), 250);
+    QCOMPARE(shared(600, 500), 600);
+    QCOMPARE(shared(500, 500), 500);
+    QCOMPARE(shared(0, 500), 0);
+    QCOMPARE(shared(40, -8), 40);
 }
 
 void IconListsTest::captionsNeedRoom()
 {
-    QFETCH(const int, icon);
-    QTEST(ZelIconListItemDelegate::textLines(icon), "lines");
-    Adapter adapter;
-    ZelIconListWidget list(nullptr, &adapter);
-    const auto *delegate = qobject_cast<ZelIconListItemDelegate *>(list.itemDelegate());
-    list.addItem(QStringLiteral("item"));
-    QStyleOptionViewItem option;
-    option.decorationSize = QSize(icon, icon);
-    const auto heightOf = [&] {
-        return delegate->actualSizeHint(option, list.model()->index(0, 0)).height();
-    };
-    const int height = heightOf();
-    const int line = QFontMetrics(list.font()).height() + 2;
-    QFETCH(const int, lines);
-    QCOMPARE(height, icon + 2 + line * lines);
-    QFont huge = list.font();
-    huge.setPointSize(72);
-    list.setFont(huge);
-    QCOMPARE(heightOf(), icon + 2);
+    for (const auto &[icon, lines] : {std::pair(47, 0), {48, 1}, {96, 1}, {97, 2}}) {
+        QCOMPARE(ZelIconListItemDelegate::textLines(icon), lines);
+        Adapter adapter;
+        ZelIconListWidget list(nullptr, &adapter);
+        const auto *delegate = qobject_cast<ZelIconListItemDelegate *>(list.itemDelegate());
+        list.addItem(QStringLiteral("item"));
+        QStyleOptionViewItem option;
+        option.decorationSize = QSize(icon, icon);
+        const QModelIndex item = list.model()->index(0, 0);
+        const int line = QFontMetrics(list.font()).height() + 2;
+        QCOMPARE(delegate->actualSizeHint(option, item).height(), icon + 2 + line * lines);
+        QFont huge = list.font();
+        huge.setPointSize(72);
+        list.setFont(huge);
+        QCOMPARE(delegate->actualSizeHint(option, item).height(), icon + 2);
+    }
 }
 
 void IconListsTest::twoIconsAlwaysFit()

@@ -312,12 +312,7 @@ void TreeViewTest::dropsGoToTheSelection()
     QMimeData data;
     data.setText(QStringLiteral("material"));
     const auto dropAt = [&](const QPoint &point) {
-        QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(tree.viewport(), &enter);
-        QDropEvent event(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        event.ignore();
-        QCoreApplication::sendEvent(tree.viewport(), &event);
-        return event.isAccepted();
+        return UserInput::dropOn(tree.viewport(), point, data);
     };
     QVERIFY(dropAt(QPoint(280, 190)));
     QCOMPARE(model.names.size(), 4);

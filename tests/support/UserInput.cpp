@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QTimer>
@@ -60,6 +61,22 @@ bool wheel(QWidget *widget, double steps, Qt::KeyboardModifiers modifiers)
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(widget, &event);
     return event.isAccepted();
+}
+
+bool dropOn(QWidget *widget, QPoint position, const QMimeData &data)
+{
+    QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(widget, &enter);
+    if (!enter.isAccepted())
+        return false;
+    // Widgets that say nothing to moves go on accepting.
+    QDragMoveEvent move(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    move.accept();
+    QCoreApplication::sendEvent(widget, &move);
+    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, {});
+    drop.ignore();
+    QCoreApplication::sendEvent(widget, &drop);
+    return move.isAccepted() && drop.isAccepted();
 }
 
 void type(QWidget *widget, const QString &text)

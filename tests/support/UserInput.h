@@ -7,6 +7,7 @@
 #include <functional>
 
 class QDialog;
+class QMimeData;
 class QWidget;
 
 /// What a user does with mouse and keyboard, for tests. All positions are in the widget's own
@@ -25,6 +26,9 @@ void drag(QWidget *widget, QPoint from, QPoint to, Qt::KeyboardModifiers modifie
 /// Wheel steps (1 is a notch of 15 degrees; positive turns away from the user). True if the
 /// widget or an ancestor accepted the event.
 bool wheel(QWidget *widget, double steps, Qt::KeyboardModifiers modifiers = {});
+/// Comes with the data, moves and drops them; whether they were taken. An item view takes drops on
+/// its viewport.
+bool dropOn(QWidget *widget, QPoint position, const QMimeData &data);
 /// Types into the focus widget of the widget's window, or into the widget.
 void type(QWidget *widget, const QString &text);
 

@@ -1,8 +1,7 @@
+#include "Rows.h"
 #include "TestCase.h"
 
 #include "ZelFrameExtraction.h"
-#include "ZelFrameFiles.h"
-#include "ZelVideoReport.h"
 
 #include <ZelWidgets/ExtractFramesFromVideoDlg>
 #include <ZelWidgets/IconColorTheme>
@@ -108,12 +107,6 @@ const QString dialogTitle = text("Extract Video Frames");
 const QByteArray smallReport = "  Duration: 00:00:02.00, start: 0\n"
                                "  Stream #0:0: Video: gif, bgra, 8x8, 2 fps, 2 tbr\n";
 
-QByteArray seed(const QString &name)
-{
-    QFile file(text(ZEL_SOURCE_DIR "/fuzz/videoreport/seeds/") + name + text(".txt"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// Whether the process runs, whose number is in the file; an end that nobody waited for counts as
 /// running.
 bool isAlive(const QString &pidFile)
@@ -133,12 +126,6 @@ class VideoTest : public TestCase
 private Q_SLOTS:
     void initTestCase();
     void cleanup();
-    void reportsAreRead_data();
-    void reportsAreRead();
-    void progressIsFoundInPieces_data();
-    void progressIsFoundInPieces();
-    void existingFramesAreListedInOrder();
-    void onlyNewFramesCount();
     void aVideoBecomesPictures_data();
     void aVideoBecomesPictures();
     void whatIsNoVideoIsRefused_data();
@@ -211,147 +198,23 @@ void VideoTest::makeClip(const QString &path)
     QCOMPARE(QProcess::execute(ZelFrameExtraction::programPath(), arguments), 0);
 }
 
-void VideoTest::reportsAreRead_data()
-{
-    QTest::addColumn<QByteArray>("report");
-    QTest::addColumn<QString>("duration");
-    QTest::addColumn<QSize>("resolution");
-    QTest::addColumn<int>("frames");
-    const auto row = [](const char *name, const QByteArray &report, const char *duration,
-                        QSize resolution, int frames) {
-        QTest::newRow(name) << report << text(duration) << resolution << frames;
-    };
-    const auto real = [&row](const char *name, const char *duration, QSize resolution, int frames) {
-        row(name, seed(text(name)), duration, resolution, frames);
-    };
-    const QSize size(320, 240);
-    real("mp4", "00:02.00", size, 50);
-    real("mkv", "00:02.02", size, 50);
-    real("gif", "00:02.10", size, 21);
-    real("mpegts", "00:02.01", size, 60);
-    real("ntsc", "00:10.01", size, 300);
-    real("sequence", "00:02.00", size, 50);
-    real("awkward_name", "00:02.00", size, 50);
-    real("sound", "00:02.06", QSize(), 0);
-    real("cover", "00:02.06", QSize(), 0);
-    real("broken", "", QSize(), 0);
-    real("text", "", QSize(), 0);
-    real("missing", "", QSize(), 0);
-
-    const auto made = [](const char *duration, const char *stream) {
-        return QByteArray("Duration: ") + duration + "\n Stream #0.0: Video: mpeg4, " + stream;
-    };
-    row("base rate only", made("00:00:10.0", "640x480, 25 tbr, 25 tbn"), "00:10.0", QSize(640, 480),
-        250);
-    row("fraction of one digit", made("01:00:00.5", "8x6, 10 fps"), "01:00:00.5", QSize(8, 6),
-        36005);
-    row("10 hours", made("10:00:00.00", "8x6, 60 fps"), "10:00:00.00", QSize(8, 6), 2160000);
-    row("rate 0", made("00:00:10.00", "8x6, 0 fps"), "00:10.00", QSize(8, 6), 0);
-    row("rate 90k", made("00:00:10.00", "8x6, 90k fps"), "00:10.00", QSize(8, 6), 900000);
-    row("more than fits", made("999999999999:00:00.00", "8x6, 90k fps"), "999999999999:00:00.00",
-        QSize(8, 6), std::numeric_limits<int>::max());
-    row("no size", made("00:00:10.00", "0x0, 99999999999x8, 25 fps"), "00:10.00", QSize(), 0);
-}
-
-void VideoTest::reportsAreRead()
-{
-    QFETCH(QByteArray, report);
-    QFETCH(QSize, resolution);
-    QVERIFY(!report.isEmpty());
-    const ZelVideoReport result = ZelVideoReport::parse(report);
-    QTEST(result.durationText, "duration");
-    QTEST(result.frameCount(), "frames");
-    QCOMPARE(result.isVideo(), !resolution.isEmpty());
-    if (result.isVideo())
-        QCOMPARE(result.resolution, resolution);
-}
-
-void VideoTest::progressIsFoundInPieces_data()
-{
-    QTest::addColumn<QByteArrayList>("pieces");
-    QTest::addColumn<int>("frame");
-    using Pieces = QByteArrayList;
-    QTest::newRow("real") << Pieces{seed(text("extraction"))} << 50;
-    QTest::newRow("last of a piece") << Pieces{"frame=    1 fps=0.0 \rframe=   12 fps=3 "} << 12;
-    QTest::newRow("cut number") << Pieces{"frame=  7 \rframe=  1", "2", "3 fps"} << 123;
-    QTest::newRow("unfinished number") << Pieces{"frame=  7 \rframe=  12"} << 7;
-    QTest::newRow("cut mark") << Pieces{"frframe", "=", " ", "5\r"} << 5;
-    QTest::newRow("no number") << Pieces{"frame= x frame=frame=9 "} << 9;
-    QTest::newRow("nothing") << Pieces{"fps=12 ", "", "frame"} << -1;
-    QTest::newRow("more than fits")
-        << Pieces{"frame=99999999999999999999 "} << std::numeric_limits<int>::max();
-}
-
-void VideoTest::progressIsFoundInPieces()
-{
-    QFETCH(QByteArrayList, pieces);
-    ZelFrameProgress progress;
-    for (const QByteArray &piece : pieces)
-        progress.feed(piece);
-    QTEST(progress.frame(), "frame");
-}
-
-void VideoTest::existingFramesAreListedInOrder()
-{
-    for (const char *name : {"c10.png", "c9.png", "c007.png", "c.png", "c1.jpeg", "cx1.png",
-                             "d1.png", "c1png", "c99999999999999999999.png"})
-        writeFile(text(name), "x");
-    QDir(folder()).mkdir(text("c5.png"));
-    const ZelFrameFiles files(folder(), text("c"), text("png"));
-    QCOMPARE(files.existing(), QStringList({text("c007.png"), text("c9.png"), text("c10.png"),
-                                            text("c99999999999999999999.png")}));
-    const ZelFrameFiles percent(text("a%\\b"), text("50%d"), text("png"));
-    QCOMPARE(percent.pattern(), text("a%%/b/50%%d%01d.png"));
-    QCOMPARE(ZelFrameFiles::baseNameFor(text("/v/.mp4")), text("frame"));
-}
-
-void VideoTest::onlyNewFramesCount()
-{
-    const QDateTime start(QDate(2024, 5, 5), QTime(12, 0, 1, 500));
-    const auto write = [&](const char *name, const QDateTime &stamp) {
-        QFile file(writeFile(text(name), "x"));
-        QVERIFY(file.open(QIODevice::ReadWrite));
-        QVERIFY(file.setFileTime(stamp, QFileDevice::FileModificationTime));
-    };
-    const ZelFrameFiles files(folder(), text("c"), text("png"));
-    QCOMPARE(files.writtenSince(start, 3).all, 0);
-    write("c1.png", start.addMSecs(-1));
-    write("c2.png", start);
-    // A file system of whole, even seconds rounds down.
-    write("c3.png", QDateTime(start.date(), QTime(12, 0, 0)));
-    write("c03.png", start);
-    write("c0.png", start);
-    QCOMPARE(files.writtenSince(start, 3).expected, 2);
-    QCOMPARE(files.writtenSince(start, 3).first, folder() + text("/c2.png"));
-    write("c1.png", start);
-    write("c4.png", start);
-    write("c6.png", start);
-    QCOMPARE(files.writtenSince(start, 3).expected, 3);
-    QCOMPARE(files.writtenSince(start, 3).all, 4);
-    QCOMPARE(files.writtenSince(start, std::numeric_limits<int>::max()).expected, 5);
-}
+using Export = std::tuple<Text, Text, Text>;
 
 void VideoTest::aVideoBecomesPictures_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("format");
-    const auto row = [](const char *name, const char *file, const char *base, const char *format) {
-        QTest::newRow(name) << text(file) << text(base) << text(format);
-    };
-    row("png", "clip.mp4", "clip", "PNG");
-    row("jpeg", "clip.mp4", "clip", "JPEG");
-    row("awkward name", "it's 100%d \"\u00fc\".mp4", "it's 100%d \"\u00fc\"", "PNG");
-    row("no base name", ".mp4", "frame", "PNG");
+    addRows<Export>({
+        {"png", {"clip.mp4", "clip", "PNG"}},
+        {"jpeg", {"clip.mp4", "clip", "JPEG"}},
+        {"awkward name", {"it's 100%d \"\u00fc\".mp4", "it's 100%d \"\u00fc\"", "PNG"}},
+        {"no base name", {".mp4", "frame", "PNG"}},
+    });
 }
 
 void VideoTest::aVideoBecomesPictures()
 {
     if (!useRealProgram())
         QSKIP("there is no ffmpeg on this system");
-    QFETCH(QString, name);
-    QFETCH(QString, base);
-    QFETCH(QString, format);
+    const auto [name, base, format] = currentRow<Export>();
     const QString path = folder() + u'/' + name;
     makeClip(path);
     QVERIFY(QDir(folder()).mkdir(text("50% out")));
@@ -368,24 +231,22 @@ void VideoTest::aVideoBecomesPictures()
     QVERIFY(QImage(start + text("12") + suffix) != QImage(result.firstFile));
 }
 
+using Refusal = std::pair<Text, Text>;
+
 void VideoTest::whatIsNoVideoIsRefused_data()
 {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("file");
-    const auto row = [](const char *name, const char *program, const char *file) {
-        QTest::newRow(name) << text(program) << text(file);
-    };
-    row("no program", "", "a.mp4");
-    row("no path", "real", "");
-    row("no file", "real", "none.mp4");
-    row("text", "real", "a.mp4");
-    row("nonsense", "script", "a.mp4");
+    addRows<Refusal>({
+        {"no program", {"", "a.mp4"}},
+        {"no path", {"real", ""}},
+        {"no file", {"real", "none.mp4"}},
+        {"text", {"real", "a.mp4"}},
+        {"nonsense", {"script", "a.mp4"}},
+    });
 }
 
 void VideoTest::whatIsNoVideoIsRefused()
 {
-    QFETCH(QString, program);
-    QFETCH(QString, file);
+    const auto [program, file] = currentRow<Refusal>();
     if (program == QLatin1String("script"))
         writeProgram("head -c 5000 /dev/urandom >&2; kill -9 $$");
     else if (program == QLatin1String("real") && !useRealProgram())

@@ -1,7 +1,7 @@
 #include "ZelIntegerSlider.h"
 
-#include "ZelAccessibleValue.h"
 #include "ZelControlWheel.h"
+#include "ZelSliderAccessible.h"
 #include "ZelSliderGroove.h"
 
 #include <ZelWidgets/ZelFontMetrics>
@@ -16,22 +16,6 @@ namespace {
 constexpr int scrollToMaxDelay = 500;
 constexpr int hintInM = 6;
 
-class AccessibleSlider : public ZelAccessibleValue
-{
-public:
-    explicit AccessibleSlider(QWidget *slider)
-        : ZelAccessibleValue(slider, QAccessible::Slider)
-    {}
-    QVariant currentValue() const override { return slider()->value(); }
-    void setCurrentValue(const QVariant &value) override { slider()->setValue(value.toInt()); }
-    QVariant maximumValue() const override { return slider()->maximum(); }
-    QVariant minimumValue() const override { return slider()->minimum(); }
-    QVariant minimumStepSize() const override { return slider()->singleStep(); }
-
-private:
-    QSlider *slider() const { return static_cast<QSlider *>(object()); }
-};
-
 } // namespace
 
 ZelIntegerSlider::ZelIntegerSlider(QWidget *parent, int minimum, int maximum, int *value)
@@ -39,7 +23,7 @@ ZelIntegerSlider::ZelIntegerSlider(QWidget *parent, int minimum, int maximum, in
     , value_(value)
     , initialValue_(*value)
 {
-    ZelAccessibleValue::serve<AccessibleSlider, ZelIntegerSlider>();
+    ZelAccessibleValue::serve<ZelSliderAccessible, ZelIntegerSlider>();
     setObjectName(QStringLiteral("ZelIntegerSlider"));
     setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Preferred);
     setRange(minimum, maximum);

@@ -1,5 +1,7 @@
 #include "CropPage.h"
 
+#include "SectionRow.h"
+
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelImageCropDialog>
 #include <ZelWidgets/ZelImageCropWidget>
@@ -60,14 +62,6 @@ QPixmap landscape(QSize size)
         painter.drawPath(ridge(i));
     }
     return picture;
-}
-
-QHBoxLayout *addRow(QVBoxLayout *section)
-{
-    auto *row = new QHBoxLayout;
-    row->setSpacing(8);
-    section->addLayout(row);
-    return row;
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 #include "FieldsPage.h"
 
+#include "UnitChoice.h"
+
 #include <ZelCore/ZelUnitManager>
-#include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelDoubleEdit>
 #include <ZelWidgets/ZelDoubleSpinBox>
 #include <ZelWidgets/ZelIntegerEdit>
@@ -135,19 +136,9 @@ void FieldsPage::addUnitRow(QFormLayout *form, const QString &name, Quantity qua
     ZelDoubleEdit *field = addNumber(form, name, start, -1e12, 1e12);
     field->setUnit(units_);
     field->setQuantity(quantity);
-    auto *choice = new ZelComboBox(this);
-    choice->setAccessibleName(tr("Unit of %1").arg(name));
-    for (const Unit unit : ZelUnitManager::units(quantity)) {
-        choice->addItem(ZelUnitManager::suffix(quantity, unit), static_cast<int>(unit));
-        if (unit == units_->displayUnit(quantity))
-            choice->setCurrentIndex(choice->count() - 1);
-    }
-    connect(choice, &QComboBox::currentIndexChanged, this, [this, choice, quantity](int index) {
-        units_->setDisplayUnit(quantity, static_cast<Unit>(choice->itemData(index).toInt()));
-    });
     auto *row = static_cast<QHBoxLayout *>(
         form->itemAt(form->rowCount() - 1, QFormLayout::FieldRole)->layout());
-    row->insertWidget(1, choice);
+    row->insertWidget(1, new UnitChoice(units_, quantity, name, this));
 }
 
 void FieldsPage::addUnits()

@@ -1,5 +1,7 @@
 #include "MessageBoxesPage.h"
 
+#include "SectionRow.h"
+
 #include <ZelCore/ZelSettings>
 #include <ZelWidgets/ZelDontShowAgainDialog>
 #include <ZelWidgets/ZelMessageBox>
@@ -25,14 +27,6 @@ QString nameOf(int button)
     const auto names = QMetaEnum::fromType<QDialogButtonBox::StandardButtons>();
     const char *name = names.valueToKey(button);
     return name ? QString::fromLatin1(name) : QString::number(button);
-}
-
-QHBoxLayout *addRow(QVBoxLayout *section)
-{
-    auto *row = new QHBoxLayout;
-    row->setSpacing(8);
-    section->addLayout(row);
-    return row;
 }
 
 } // namespace

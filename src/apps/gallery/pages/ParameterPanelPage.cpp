@@ -1,8 +1,9 @@
 #include "ParameterPanelPage.h"
 
+#include "UnitChoice.h"
+
 #include <ZelCore/ZelUnitManager>
 #include <ZelWidgets/ZelAccordionWidget>
-#include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelDoubleSliderEdit>
 #include <ZelWidgets/ZelDropDownDoubleSliderEdit>
 #include <ZelWidgets/ZelIntegerSlider>
@@ -71,19 +72,9 @@ void ParameterPanelPage::addUnits()
 
 void ParameterPanelPage::addUnitChoice(QLayout *layout, const QString &name, int number)
 {
-    const auto quantity = static_cast<Quantity>(number);
     auto *caption = new QLabel(name, this);
-    auto *choice = new ZelComboBox(this);
+    auto *choice = new UnitChoice(units_, static_cast<Quantity>(number), name, this);
     caption->setBuddy(choice);
-    choice->setAccessibleName(tr("Unit of %1").arg(name));
-    for (const Unit unit : ZelUnitManager::units(quantity)) {
-        choice->addItem(ZelUnitManager::suffix(quantity, unit), static_cast<int>(unit));
-        if (unit == units_->displayUnit(quantity))
-            choice->setCurrentIndex(choice->count() - 1);
-    }
-    connect(choice, &QComboBox::currentIndexChanged, this, [this, choice, quantity](int index) {
-        units_->setDisplayUnit(quantity, static_cast<Unit>(choice->itemData(index).toInt()));
-    });
     layout->addWidget(caption);
     layout->addWidget(choice);
 }

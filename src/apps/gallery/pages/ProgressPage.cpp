@@ -1,5 +1,7 @@
 #include "ProgressPage.h"
 
+#include "SectionRow.h"
+
 #include <ZelWidgets/ZelComboBox>
 #include <ZelWidgets/ZelLineEdit>
 #include <ZelWidgets/ZelProgressDialog>
@@ -28,14 +30,6 @@ constexpr int splashStepMs = 30;
 constexpr int splashSteps = 100;
 constexpr QSize pictureSize(320, 180);
 constexpr int depth = 8000;
-
-QHBoxLayout *addRow(QVBoxLayout *section)
-{
-    auto *row = new QHBoxLayout;
-    row->setSpacing(8);
-    section->addLayout(row);
-    return row;
-}
 
 // How fast the point leaves the Mandelbrot set, as a colour.
 QRgb colorAt(int x, int y)

@@ -1,7 +1,7 @@
 #include "color/ZelColorSlider.h"
 
+#include "ZelSliderAccessible.h"
 #include "color/ZelColorHandle.h"
-#include "color/ZelColorSliderAccessible.h"
 #include "color/ZelColorSliderKeys.h"
 #include "color/ZelColorStrip.h"
 
@@ -13,7 +13,7 @@ ZelColorSlider::ZelColorSlider(RGBMode mode, QWidget *parent)
     : ZelSlider(Qt::Horizontal, parent)
     , mode_(mode)
 {
-    ZelAccessibleValue::serve<ZelColorSliderAccessible, ZelColorSlider>();
+    ZelAccessibleValue::serve<ZelSliderAccessible, ZelColorSlider>();
     setAccessibleName(ZelColorChannel::label(mode));
     setLayoutDirection(Qt::LeftToRight);
     const ZelColorChannel::Range range = ZelColorChannel::sliderRange(mode);

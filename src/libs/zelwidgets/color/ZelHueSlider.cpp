@@ -1,9 +1,9 @@
 #include "color/ZelHueSlider.h"
 
 #include "ZelControlWheel.h"
+#include "ZelSliderAccessible.h"
 #include "color/ZelColorConversion.h"
 #include "color/ZelColorHandle.h"
-#include "color/ZelColorSliderAccessible.h"
 #include "color/ZelColorSliderKeys.h"
 #include "color/ZelColorStrip.h"
 
@@ -17,13 +17,13 @@ constexpr int lastHue = 359;
 constexpr int stripWidth = 16;
 constexpr QSize usualSize(20, 200);
 
-class AccessibleHue : public ZelColorSliderAccessible
+class AccessibleHue : public ZelSliderAccessible
 {
 public:
-    using ZelColorSliderAccessible::ZelColorSliderAccessible;
+    using ZelSliderAccessible::ZelSliderAccessible;
     QString text(QAccessible::Text kind) const override
     {
-        const QString text = ZelColorSliderAccessible::text(kind);
+        const QString text = ZelSliderAccessible::text(kind);
         const QString suffix = ZelColorChannel::field(ZelColorChannel::Mode::Hue).suffix;
         return kind == QAccessible::Value ? text + suffix : text;
     }

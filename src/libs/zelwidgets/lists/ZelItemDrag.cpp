@@ -111,17 +111,12 @@ void ZelItemDrag::start(QAbstractItemView *view, const QModelIndexList &indices,
     drag->exec(model->supportedDragActions(), view->defaultDropAction());
 }
 
-void ZelItemDrag::hearToolTips(const QAbstractItemView *view, const QEvent *event,
-                               const std::function<void(const QModelIndex &)> &show,
-                               const std::function<void()> &hide)
+std::optional<QModelIndex> ZelItemDrag::toolTipIndex(const QAbstractItemView *view,
+                                                     const QEvent *event)
 {
-    if (event->type() == QEvent::Leave || event->type() == QEvent::Hide) {
-        hide();
-    } else if (event->type() == QEvent::ToolTip) {
-        const QModelIndex index = view->indexAt(view->viewport()->mapFromGlobal(QCursor::pos()));
-        if (index.isValid())
-            show(index);
-        else
-            hide();
-    }
+    if (event->type() == QEvent::Leave || event->type() == QEvent::Hide)
+        return QModelIndex();
+    if (event->type() == QEvent::ToolTip)
+        return view->indexAt(view->viewport()->mapFromGlobal(QCursor::pos()));
+    return std::nullopt;
 }

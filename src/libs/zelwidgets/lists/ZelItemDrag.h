@@ -1,17 +1,19 @@
 #pragma once
 
+#include <QDropEvent>
 #include <QList>
 #include <QModelIndexList>
 #include <QPersistentModelIndex>
 #include <QPixmap>
 #include <QPoint>
+#include <QPointer>
 #include <QSize>
 
 #include <functional>
+#include <optional>
 
 class QAbstractItemModel;
 class QAbstractItemView;
-class QDropEvent;
 class QEvent;
 
 /// What the item views share: what is dragged, its picture, where it is dropped, and who asks for
@@ -29,6 +31,24 @@ QList<QPersistentModelIndex> targets(const QAbstractItemView *view, const QModel
 bool dropOn(QAbstractItemModel *model, const QDropEvent *event,
             const QList<QPersistentModelIndex> &targets);
 
+/// Drops on the targets, if there are any, between the signals by which the view tells so. False if
+/// the view went meanwhile.
+template <typename View, typename Drop>
+bool dropBetweenSignals(View *view, QDropEvent *event, const QList<QPersistentModelIndex> &targets,
+                        const Drop &drop)
+{
+    const QPointer<View> alive(view);
+    if (targets.isEmpty())
+        return true;
+    Q_EMIT view->beginDropSelection();
+    const bool isTaken = alive && drop(targets);
+    if (alive)
+        Q_EMIT alive->endDropSelection();
+    if (isTaken)
+        event->acceptProposedAction();
+    return !alive.isNull();
+}
+
 /// How many of the items are drawn, and where, in the logical pixels of the picture; the last place
 /// is that of the last item.
 QList<QPoint> places(qsizetype items);
@@ -44,9 +64,21 @@ QPixmap pictureOf(const QModelIndexList &indices, int role, qreal pixelRatio);
 /// Drags what the model says of the indices, with their pictures; nothing if it says nothing.
 void start(QAbstractItemView *view, const QModelIndexList &indices, int pictureRole);
 
-/// Asks for a tool tip, or for its end, on the events that tell so.
-void hearToolTips(const QAbstractItemView *view, const QEvent *event,
-                  const std::function<void(const QModelIndex &)> &show,
-                  const std::function<void()> &hide);
+/// What an event says of tool tips: that the one of this index is wanted, none of an invalid index;
+/// most say nothing.
+std::optional<QModelIndex> toolTipIndex(const QAbstractItemView *view, const QEvent *event);
+
+/// Tells by the signals of the view that a tool tip is wanted or no longer wanted.
+template <typename View>
+void hearToolTips(View *view, const QEvent *event)
+{
+    const std::optional<QModelIndex> index = toolTipIndex(view, event);
+    if (!index)
+        return;
+    if (index->isValid())
+        Q_EMIT view->toolTipRequested(*index);
+    else
+        Q_EMIT view->toolTipHideRequest();
+}
 
 } // namespace ZelItemDrag

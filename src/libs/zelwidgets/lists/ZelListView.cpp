@@ -40,9 +40,7 @@ QModelIndexList ZelListView::draggableIndices() const
 
 bool ZelListView::event(QEvent *event)
 {
-    ZelItemDrag::hearToolTips(
-        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
-        [this] { Q_EMIT toolTipHideRequest(); });
+    ZelItemDrag::hearToolTips(this, event);
     return QListView::event(event);
 }
 
@@ -73,17 +71,10 @@ void ZelListView::dropEvent(QDropEvent *event)
 
 void ZelListView::doExtendDropToSelection(QDropEvent *event)
 {
-    const QPointer<ZelListView> self(this);
-    const QList<QPersistentModelIndex> targets = getDropTargets(event);
-    if (!targets.isEmpty()) {
-        Q_EMIT beginDropSelection();
-        const bool isTaken = self && dropOn(event, targets);
-        if (self)
-            Q_EMIT endDropSelection();
-        if (isTaken)
-            event->acceptProposedAction();
-    }
-    if (!self)
+    const auto drop = [this, event](const QList<QPersistentModelIndex> &targets) {
+        return dropOn(event, targets);
+    };
+    if (!ZelItemDrag::dropBetweenSignals(this, event, getDropTargets(event), drop))
         return;
     stopAutoScroll();
     setState(NoState);

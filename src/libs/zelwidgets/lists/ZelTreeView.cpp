@@ -75,9 +75,7 @@ QModelIndexList ZelTreeView::draggableIndices() const
 
 bool ZelTreeView::event(QEvent *event)
 {
-    ZelItemDrag::hearToolTips(
-        this, event, [this](const QModelIndex &index) { Q_EMIT toolTipRequested(index); },
-        [this] { Q_EMIT toolTipHideRequest(); });
+    ZelItemDrag::hearToolTips(this, event);
     return QTreeView::event(event);
 }
 
@@ -115,18 +113,11 @@ void ZelTreeView::dropEvent(QDropEvent *event)
 
 void ZelTreeView::dropOnSelection(QDropEvent *event)
 {
-    const QPointer<ZelTreeView> self(this);
-    const QList<QPersistentModelIndex> targets =
-        ZelItemDrag::targets(this, selectedIndexes(), event);
-    if (!targets.isEmpty()) {
-        Q_EMIT beginDropSelection();
-        const bool isTaken = self && ZelItemDrag::dropOn(model(), event, targets);
-        if (self)
-            Q_EMIT endDropSelection();
-        if (isTaken)
-            event->acceptProposedAction();
-    }
-    if (!self)
+    const auto drop = [this, event](const QList<QPersistentModelIndex> &targets) {
+        return ZelItemDrag::dropOn(model(), event, targets);
+    };
+    const auto targets = ZelItemDrag::targets(this, selectedIndexes(), event);
+    if (!ZelItemDrag::dropBetweenSignals(this, event, targets, drop))
         return;
     stopAutoScroll();
     setState(NoState);

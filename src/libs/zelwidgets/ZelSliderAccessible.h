@@ -4,11 +4,11 @@
 
 #include <QSlider>
 
-/// A colour slider for assistive technology: its position, in the text of a field if it has one.
-class ZelColorSliderAccessible : public ZelAccessibleValue
+/// A slider whose position is its number, for assistive technology.
+class ZelSliderAccessible : public ZelAccessibleValue
 {
 public:
-    explicit ZelColorSliderAccessible(QWidget *slider)
+    explicit ZelSliderAccessible(QWidget *slider)
         : ZelAccessibleValue(slider, QAccessible::Slider)
     {}
     QVariant currentValue() const override { return slider()->value(); }
