@@ -39,7 +39,7 @@ QString GallerySwitchTest::freshPictures(const QString &theme) const
     gallery.start(QStringLiteral(ZEL_GALLERY),
                   {QStringLiteral("--theme"), theme, QStringLiteral("--screenshots"), target,
                    QStringLiteral("--settings"), folder() + QStringLiteral("/fresh.json")});
-    const bool finished = gallery.waitForFinished(180000) && gallery.exitCode() == 0;
+    const bool finished = gallery.waitForFinished(270000) && gallery.exitCode() == 0;
     return finished ? target : QString();
 }
 
