@@ -2,6 +2,7 @@
 
 #include "workspace/WorkSpaceComparison.h"
 #include "workspace/WorkSpaceGeometry.h"
+#include "workspace/WorkSpaceLayoutState.h"
 #include "workspace/WorkSpaceNameChooser.h"
 #include "workspace/WorkSpaceNames.h"
 #include "workspace/WorkSpaceRecord.h"
@@ -9,6 +10,9 @@
 #include "workspace/WorkSpaceTabOrder.h"
 
 #include <ZelCore/splitTrailingNumber>
+
+#include <QDockWidget>
+#include <QMainWindow>
 
 #include <algorithm>
 #include <functional>
@@ -45,6 +49,7 @@ private Q_SLOTS:
     void thinsOutSeparators();
     void comparesArrangements_data();
     void comparesArrangements();
+    void structureIsWithoutPlaces();
 };
 
 void TestWorkspaceRules::splitsTrailingNumbers_data()
@@ -325,6 +330,38 @@ void TestWorkspaceRules::comparesArrangements_data()
     row("a moved page", false, [](WorkSpaceRecord &r) { r.tornOutRects[0].translate(1, 0); });
     row("a hidden button", false,
         [](WorkSpaceRecord &r) { r.hiddenRibbonIds.append(QStringLiteral("GPU")); });
+}
+
+void TestWorkspaceRules::structureIsWithoutPlaces()
+{
+    QMainWindow window;
+    QList<QDockWidget *> docks;
+    for (const QString &name : words("A B C")) {
+        docks.append(new QDockWidget(name));
+        docks.last()->setObjectName(name);
+        window.addDockWidget(Qt::LeftDockWidgetArea, docks.last());
+    }
+    window.tabifyDockWidget(docks[1], docks[2]);
+    window.resize(600, 500);
+    window.show();
+    const auto structure = [&window] {
+        return WorkSpaceLayoutState::structure(window.saveState());
+    };
+    const QByteArray before = structure();
+    const QByteArray state = window.saveState();
+    QVERIFY(!before.isEmpty());
+    window.resize(900, 700);
+    window.resizeDocks({docks[0]}, {300}, Qt::Horizontal);
+    QCOMPARE(structure(), before);
+    QVERIFY(window.saveState() != state);
+    docks[0]->setFloating(true);
+    const QByteArray floating = structure();
+    QVERIFY(floating != before);
+    docks[0]->move(docks[0]->pos() + QPoint(30, 30));
+    QCOMPARE(structure(), floating);
+    docks[1]->raise();
+    QVERIFY(structure() != floating);
+    QVERIFY(WorkSpaceLayoutState::structure(state.chopped(state.size() / 2)).isEmpty());
 }
 
 void TestWorkspaceRules::comparesArrangements()

@@ -1,5 +1,6 @@
 #include "workspace/WorkSpaceComparison.h"
 
+#include "workspace/WorkSpaceLayoutState.h"
 #include "workspace/WorkSpaceRecord.h"
 
 #include <algorithm>
@@ -54,7 +55,7 @@ void reduce(WorkSpaceRecord &record, bool hasSameScreens, bool hasSameSize)
     }
     if (!hasSameScreens || !hasSameSize) {
         record.dockRects.clear();
-        record.mainWindowState.clear();
+        record.mainWindowState = WorkSpaceLayoutState::structure(record.mainWindowState);
     }
 }
 

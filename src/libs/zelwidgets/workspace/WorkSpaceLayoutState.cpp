@@ -3,6 +3,7 @@
 #include <QDataStream>
 #include <QIODevice>
 
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -12,38 +13,44 @@ constexpr quint8 sequenceMarker = 0xfc;
 constexpr quint8 dockMarker = 0xfb;
 constexpr quint8 tabsMarker = 0xfa;
 constexpr int headerSize = 8;
-constexpr int areaSize = 12;
+constexpr int areaNumberSize = 4;
+constexpr int areaPlaceSize = 8;
 constexpr int placeSize = 16;
 constexpr int deepest = 64;
 
 class Reader
 {
 public:
-    explicit Reader(const QByteArray &state)
+    enum Places { Kept, Dropped };
+
+    Reader(const QByteArray &state, Places places)
         : state_(state)
         , stream_(state)
+        , places_(places)
     {}
 
-    QByteArray read()
+    /// Without what follows the docks; nothing if the state isn't understood.
+    std::optional<QByteArray> docks()
     {
         QByteArray areas;
         const QByteArray header = raw(headerSize);
-        if (number<quint8>() != docksMarker)
-            return state_;
+        isKnown_ = isKnown_ && number<quint8>() == docksMarker;
         const qint32 count = number<qint32>();
         qint32 kept = 0;
         for (qint32 i = 0; i < count && isGood(); ++i) {
-            const QByteArray area = raw(areaSize);
+            QByteArray area = raw(areaNumberSize);
+            area += place(areaPlaceSize);
             const QByteArray docks = readGroup(0);
             if (!docks.isEmpty())
                 areas += area + docks;
             kept += docks.isEmpty() ? 0 : 1;
         }
         if (!isGood())
-            return state_;
-        return header + bytes(docksMarker) + bytes(kept) + areas +
-               state_.mid(stream_.device()->pos());
+            return std::nullopt;
+        return header + bytes(docksMarker) + bytes(kept) + areas;
     }
+
+    QByteArray rest() const { return state_.mid(stream_.device()->pos()); }
 
 private:
     bool isGood() const { return isKnown_ && stream_.status() == QDataStream::Ok; }
@@ -61,11 +68,17 @@ private:
         isKnown_ = isKnown_ && data.size() == size;
         return data;
     }
+    QByteArray place(int size)
+    {
+        const QByteArray data = raw(size);
+        return places_ == Kept ? data : QByteArray();
+    }
     template <typename T>
-    static QByteArray bytes(T value)
+    static QByteArray bytes(const T &value)
     {
         QByteArray data;
-        QDataStream(&data, QIODevice::WriteOnly) << value;
+        QDataStream stream(&data, QIODevice::WriteOnly);
+        stream << value;
         return data;
     }
 
@@ -96,24 +109,24 @@ private:
     /// Empty for what is to go.
     QByteArray readItem(int depth)
     {
-        const qint64 start = stream_.device()->pos();
         const auto marker = number<quint8>();
         if (marker == dockMarker) {
             QString name;
             stream_ >> name;
             const int flagsSize = 1;
-            raw(flagsSize + placeSize);
-            return name.isEmpty() ? QByteArray()
-                                  : state_.mid(start, stream_.device()->pos() - start);
+            const QByteArray flags = raw(flagsSize);
+            const QByteArray rectangle = place(placeSize);
+            return name.isEmpty() ? QByteArray() : bytes(marker) + bytes(name) + flags + rectangle;
         }
         isKnown_ = isKnown_ && marker == sequenceMarker;
-        const QByteArray place = raw(placeSize);
+        const QByteArray rectangle = place(placeSize);
         const QByteArray group = isKnown_ ? readGroup(depth + 1) : QByteArray();
-        return group.isEmpty() ? group : bytes(marker) + place + group;
+        return group.isEmpty() ? group : bytes(marker) + rectangle + group;
     }
 
     QByteArray state_;
     QDataStream stream_;
+    Places places_;
     bool isKnown_ = true;
 };
 
@@ -124,5 +137,14 @@ QByteArray WorkSpaceLayoutState::withoutNameless(const QByteArray &state)
     using namespace std::string_view_literals;
     constexpr auto nameless = "\xfb\xff\xff\xff\xff"sv;
     const std::string_view text(state.constData(), size_t(state.size()));
-    return text.find(nameless) == text.npos ? state : Reader(state).read();
+    if (text.find(nameless) == text.npos)
+        return state;
+    Reader reader(state, Reader::Kept);
+    const std::optional<QByteArray> docks = reader.docks();
+    return docks ? *docks + reader.rest() : state;
+}
+
+QByteArray WorkSpaceLayoutState::structure(const QByteArray &state)
+{
+    return Reader(state, Reader::Dropped).docks().value_or(QByteArray());
 }

@@ -10,4 +10,8 @@ namespace WorkSpaceLayoutState {
 /// that would differ. What isn't understood is given back as it is.
 QByteArray withoutNameless(const QByteArray &state);
 
+/// Which docks stand where, behind each other, hidden or afloat: the docks of the state without
+/// their places and sizes, for comparisons only. Empty if the state isn't understood.
+QByteArray structure(const QByteArray &state);
+
 } // namespace WorkSpaceLayoutState
