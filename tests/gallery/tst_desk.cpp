@@ -202,7 +202,12 @@ void DeskTest::theButtonRestoresWorkSpacesAndThemes()
         }
         QFAIL("no such entry");
     };
+    QWidget *button = desk_->ribbon()->workSpaces();
+    desk_->activateWindow();
+    button->setFocus();
+    QTRY_VERIFY(button->hasFocus());
     choose(QStringLiteral("defWorkSpace2"));
+    QVERIFY2(button->hasFocus(), "another one would take the next key");
     QCOMPARE(desk_->ribbon()->workSpaces()->currentWorkSpace(), QStringLiteral("defWorkSpace2"));
     QVERIFY(!desk_->dock("StudioDockWidget")->isHidden());
     QVERIFY(desk_->dock("LibraryDock")->isHidden());

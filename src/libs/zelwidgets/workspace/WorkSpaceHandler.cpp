@@ -12,6 +12,7 @@
 #include "workspace/WorkSpaceRibbonRules.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDebug>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -67,6 +68,25 @@ void floatInPlace(const QMainWindow *window, QDockWidget *dock)
                                       {screen->geometry(), screen->availableGeometry()}));
 }
 
+/// Panes and bars go and come, and the focus with them: whoever had it and is still there gets it
+/// back, or the next key would press the first button of a title.
+class FocusKeeper
+{
+public:
+    FocusKeeper()
+        : widget_(QApplication::focusWidget())
+    {}
+    ~FocusKeeper()
+    {
+        if (widget_ && widget_->isVisible() && QApplication::focusWidget() != widget_)
+            widget_->setFocus(Qt::OtherFocusReason);
+    }
+    Q_DISABLE_COPY_MOVE(FocusKeeper)
+
+private:
+    QPointer<QWidget> widget_;
+};
+
 } // namespace
 
 QByteArray WorkSpaceHandler::getWorkSpaceData(QWidget *libraryWindow, QWidget *projectWindow)
@@ -87,6 +107,7 @@ bool WorkSpaceHandler::restoreWorkSpace(const QByteArray &data, QWidget *library
         markStartupRestore(true);
     bool restored = false;
     {
+        const FocusKeeper focus;
         const ZelDocking::RestoreScope scope;
         restored = WorkSpaceInformation(libraryWindow, projectWindow).restoreState(data);
     }
