@@ -37,6 +37,7 @@ ScenePage::ScenePage(ViewScene *scene, Viewport *viewport, QWidget *parent)
 {
     setObjectName(QStringLiteral("ScenePage"));
     tabs_->setObjectName(QStringLiteral("ScenePageSubTab"));
+    tabs_->setAccessibleName(tr("Scene"));
     tabs_->addTab(createObjectTab(), tr("Object"));
     tabs_->addTab(createCameraTab(), tr("Camera"));
     tabs_->addTab(createLightTab(), tr("Light"));
