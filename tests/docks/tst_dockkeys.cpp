@@ -261,6 +261,11 @@ void tst_dockkeys::windowIsMovedAndSized()
     press(window.tree, {ctrl | int(Qt::Key_Up), int(Qt::Key_Return)});
     QCOMPARE(window.tree->geometry(), QRect(300, 240, 200, 200));
     QVERIFY(window.tree->isFloating());
+    window.mode->start();
+    for (int i = 0; i < 30; ++i)
+        press(window.tree, {ctrl | int(Qt::Key_Up)});
+    QCOMPARE(window.tree->y(), 0);
+    press(window.tree, {int(Qt::Key_Return)});
 }
 
 void tst_dockkeys::modeEndsByItself_data()

@@ -33,6 +33,12 @@ bool endsMode(const QEvent *event)
     }
 }
 
+/// Whether the middle of the title, by which a window is taken hold of, lies on a screen.
+bool isTitleOnScreen(const QDockWidget *dock, const QPoint &place)
+{
+    return QGuiApplication::screenAt(place + QPoint(dock->width() / 2, 0)) != nullptr;
+}
+
 } // namespace
 
 class ZelDockingModePrivate
@@ -205,6 +211,8 @@ void ZelDockingMode::moveWindow(const QPoint &step)
         tell(tr("Only a window of its own can be moved"));
     } else if (!ZelDocking::hasGlobalPositions()) {
         tell(tr("This desktop places windows itself"));
+    } else if (!isTitleOnScreen(dock, dock->pos() + step)) {
+        tell(tr("The edge of the screens"));
     } else {
         dock->move(dock->pos() + step);
         tell(tr("At %1, %2").arg(dock->x()).arg(dock->y()));

@@ -17,9 +17,10 @@ class QPoint;
 ///     new ZelDockingMode(window);
 ///
 /// The arrow keys choose the place, Return takes the panel there, Escape leaves it where it was.
-/// While it floats, Ctrl and the arrow keys move it and Shift and the arrow keys size it. The Menu
-/// key or Shift+F10 opens the panel's context menu instead. All other keys do nothing meanwhile; a
-/// click, another application or the end of the panel cancels. The panel has the focus afterwards.
+/// While it floats, Ctrl and the arrow keys move it, but not its title off the screens, and Shift
+/// and the arrow keys size it. The Menu key or Shift+F10 opens the panel's context menu instead.
+/// All other keys do nothing meanwhile; a click, another application or the end of the panel
+/// cancels. The panel has the focus afterwards.
 ///
 /// The window owns it. ZelShortcutHandler has to be prepared before.
 class ZELWIDGETS_EXPORT ZelDockingMode : public QObject
